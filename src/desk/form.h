@@ -1,0 +1,21 @@
+// The stock controls of dialogs, as records: drop-down lists and check boxes. The rules fill and read them,
+// the toolkit's windows show them and report what the user does.
+#pragma once
+
+#include <string>
+#include <vector>
+
+struct Drop_Down {
+    std::vector<std::string> entries = {};
+    int selected = -1;  // -1 when none is
+    bool enabled = true;
+
+    void Select(int index);                     // an index outside the list selects none
+    void Select_Text(const std::string& text);  // the first entry of that text, else none
+    std::string Selected_Text() const;          // empty when none is selected
+};
+
+struct Check_Box {
+    bool checked = false;
+    bool enabled = true;
+};

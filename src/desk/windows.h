@@ -1,0 +1,59 @@
+// The program's windows as records. The rules write them; the toolkit's windows read them and show what
+// they say (Windows_Show_Changes). There is exactly one of each.
+//
+// A window comes into being the first time anything touches it: Window_Load runs its load procedure then
+// and does nothing later, until it is unloaded.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/hook.h"
+#include "platform/numbers.h"
+
+enum class Pointer { Default, Arrow, Hourglass };
+
+struct Control;  // panels/controls.h
+
+struct Window {
+    const char* name;
+    std::string caption = {};
+    bool loaded = false;
+    bool visible = false;
+    bool enabled = true;
+    Pointer pointer = Pointer::Default;
+    int left = 0;  // pixels; the main window's on the screen, a panel's in the main window's client area
+    int top = 0;
+    int width = 0;
+    int height = 0;
+    int times_raised = 0;               // each count brings the window to the front once
+    Control* active_control = nullptr;  // the control of the window that has the focus
+    Hook<void()> load = {};
+    Hook<void()> unload = {};
+};
+
+extern Window Main_Window;
+extern Window Editor;
+extern Window Editor_Juno;
+extern Window Patch;
+extern Window Sequencer;
+extern Window MIDI_Setup;
+
+// Whether the windows that may come and go stand open; written by their load and unload.
+extern Flag_8 Patch_Window_Open;
+extern Flag_8 Seq_Window_Open;
+
+// Remembered places, in twips.
+extern std::int16_t Patch_Left;
+extern std::int16_t Patch_Top;
+extern std::int16_t Seq_Window_Left;
+extern std::int16_t Seq_Window_Top;
+
+void Window_Load(Window& window);
+
+// Loads the window if need be, makes it visible and brings it to the front.
+void Window_Show(Window& window);
+void Window_Hide(Window& window);
+
+// Runs the unload procedure and takes the window from the screen; nothing when it is not loaded.
+void Window_Unload(Window& window);

@@ -1,0 +1,40 @@
+// The entry: puts the program together, starts it and runs its events.
+#include <QApplication>
+#include <cstdio>
+
+#include "desk/windows.h"
+#include "panels/control_widget.h"
+#include "panels/pictures_qt.h"
+#include "platform/gate.h"
+#include "shell/app_window.h"
+#include "shell/frame.h"
+#include "shell/style_qt.h"
+#include "shell/wiring.h"
+
+namespace {
+
+// The one main window, for the hook that brings it up to the records.
+App_Window* The_Window = nullptr;
+
+}  // namespace
+
+int main(int argument_count, char** arguments) {
+    QApplication application(argument_count, arguments);
+    QApplication::setApplicationName("Tonebench");
+    Style_Install();
+    Pictures_Open();
+    Control_Widgets_Speak();
+    Program_Wire();
+
+    App_Window window;
+    The_Window = &window;
+    Windows_Show_Changes = [] { The_Window->Show_Changes(); };
+
+    // Boxes come and go before the main window shows: none of them is the last window.
+    QApplication::setQuitOnLastWindowClosed(false);
+    bool started = false;
+    Guarded_Event([&started] { started = Main_Load(); });
+    const int result = started ? QApplication::exec() : 0;
+    Windows_Show_Changes = {};
+    return result;
+}

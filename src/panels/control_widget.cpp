@@ -1,0 +1,186 @@
+#include "panels/control_widget.h"
+
+#include <QAccessibleWidget>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "panels/key_codes_qt.h"
+#include "panels/pictures_qt.h"
+#include "platform/gate.h"
+
+namespace {
+
+Mouse_Button Button_Of(Qt::MouseButton button) {
+    if (button == Qt::RightButton) return Mouse_Button::Right;
+    return button == Qt::MiddleButton ? Mouse_Button::Middle : Mouse_Button::Left;
+}
+
+// The part of a record that shows.
+bool Same_Look(const Control& a, const Control& b) {
+    return a.picture == b.picture && a.text == b.text && a.font == b.font;
+}
+
+// ANSI (Windows-1252) to the toolkit's text. The codes 128 to 159 are the only ones that differ from
+// Latin-1.
+QString From_ANSI(const std::string& text) {
+    static constexpr char16_t High[32] = {0x20AC, 0x20,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                          0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x20,   0x017D, 0x20,
+                                          0x20,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                          0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x20,   0x017E, 0x0178};
+    QString result;
+    for (const char character : text) {
+        const auto code = static_cast<unsigned char>(character);
+        char16_t letter = code;
+        if (code < 32) letter = ' ';
+        if (code >= 128 && code < 160) letter = High[code - 128];
+        result += QChar(letter);
+    }
+    return result;
+}
+
+class Spoken_Control : public QAccessibleWidget {
+  public:
+    explicit Spoken_Control(Control_Widget* widget) : QAccessibleWidget(widget, Role(*widget)) {}
+
+    QString text(QAccessible::Text kind) const override {
+        if (kind == QAccessible::Name) return static_cast<Control_Widget*>(widget())->Spoken();
+        return QAccessibleWidget::text(kind);
+    }
+
+  private:
+    static QAccessible::Role Role(const Control_Widget& widget) {
+        return *widget.Record().kind != '\0' ? QAccessible::Slider : QAccessible::PushButton;
+    }
+};
+
+QAccessibleInterface* Make_Spoken(const QString&, QObject* object) {
+    auto* widget = dynamic_cast<Control_Widget*>(object);
+    return widget == nullptr ? nullptr : new Spoken_Control(widget);
+}
+
+}  // namespace
+
+void Control_Widgets_Speak() {
+    QAccessible::installFactory(Make_Spoken);
+}
+
+Control_Widget::Control_Widget(Control& record, const Panel& panel, QWidget* parent)
+    : QWidget(parent), record_(record), panel_(panel), shown_(record) {
+    setObjectName(record.name);
+    setFocusPolicy(record.focusable ? Qt::StrongFocus : Qt::NoFocus);
+    // A symbol or a decoration lets the pointer through to what it lies on.
+    setAttribute(Qt::WA_TransparentForMouseEvents, !record.focusable);
+    setGeometry(record.left, record.top, record.width, record.height);
+    setVisible(record.visible);
+}
+
+QString Control_Widget::Spoken() const {
+    const QString value = From_ANSI(panel_.spoken_value(record_));
+    const QString name = QString::fromUtf8(record_.spoken_name);
+    return value.isEmpty() ? name : name + ", " + value;
+}
+
+void Control_Widget::Show_Changes() {
+    setGeometry(record_.left, record_.top, record_.width, record_.height);
+    if (isEnabled() != record_.enabled && parentWidget()->isEnabled()) setEnabled(record_.enabled);
+    if (shown_.visible != record_.visible) setVisible(record_.visible);
+    if (!Same_Look(shown_, record_)) update();
+    const bool moved =
+        shown_.top != record_.top || shown_.left != record_.left || shown_.text != record_.text;
+    if (moved && QAccessible::isActive()) {
+        QAccessibleEvent renamed(this, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&renamed);
+    }
+    shown_ = record_;
+}
+
+bool Control_Widget::Is_Field() const {
+    return record_.picture.store == Picture_Store::None;
+}
+
+void Control_Widget::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (Is_Field()) {
+        Paint_Field(painter);
+    } else {
+        painter.drawPixmap(0, 0, Picture_Pixmap(record_.picture, devicePixelRatioF()));
+    }
+    // The moving controls show the focus by blinking; the others need a mark of their own.
+    if (hasFocus() && *record_.kind == '\0') {
+        painter.setPen(QPen(Ink_Colour(Ink::Heading), 1));
+        painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    }
+}
+
+// The instrument's display: lit segments on a dark glass, the unlit ones faintly behind them.
+void Control_Widget::Paint_Field(QPainter& painter) const {
+    constexpr int Cells = 10;
+    constexpr int Cell_Width = 12;
+    const QColor glass(0x06, 0x12, 0x12);
+    const QColor lit(0x6c, 0xff, 0xe2);
+    const QColor unlit(0x14, 0x2e, 0x2c);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(0x00, 0x00, 0x00), 1));
+    painter.setBrush(glass);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+
+    const QString text = From_ANSI(record_.text).left(Cells);
+    if (record_.font.empty()) {
+        QFont font = Printing_Font(16);
+        painter.setFont(font);
+        painter.setPen(lit);
+        painter.drawText(rect().adjusted(5, 0, -3, 0), Qt::AlignVCenter | Qt::AlignLeft, text);
+        return;
+    }
+    QFont font(QString::fromStdString(record_.font));
+    font.setPixelSize(20);
+    painter.setFont(font);
+    const QChar all_segments(0xE000);
+    for (int cell = 0; cell < Cells; ++cell) {
+        const QRect place(cell * Cell_Width + 1, 0, Cell_Width, height());
+        painter.setPen(unlit);
+        painter.drawText(place, Qt::AlignCenter | Qt::TextDontClip, QString(all_segments));
+        if (cell >= text.size()) continue;
+        painter.setPen(lit);
+        painter.drawText(place, Qt::AlignCenter | Qt::TextDontClip, QString(text[cell]));
+    }
+}
+
+void Control_Widget::mousePressEvent(QMouseEvent* event) {
+    Guarded_Event([&] { panel_.events.button_pressed(record_, Button_Of(event->button())); });
+}
+
+void Control_Widget::mouseMoveEvent(QMouseEvent* event) {
+    if (event->buttons() == Qt::NoButton) return;
+    Guarded_Event([&] { panel_.events.pointer_moved(record_, event->position().y()); });
+}
+
+void Control_Widget::mouseReleaseEvent(QMouseEvent* event) {
+    Guarded_Event([&] { panel_.events.button_released(record_, Button_Of(event->button())); });
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
+        Guarded_Event([&] { panel_.events.clicked(record_); });
+    }
+}
+
+void Control_Widget::keyPressEvent(QKeyEvent* event) {
+    const bool push =
+        event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (push && *record_.kind == '\0' && !Is_Field()) {
+        // The buttons work by keyboard too.
+        Guarded_Event([&] { panel_.events.button_pressed(record_, Mouse_Button::Left); });
+        Guarded_Event([&] { panel_.events.button_released(record_, Mouse_Button::Left); });
+        Guarded_Event([&] { panel_.events.clicked(record_); });
+        return;
+    }
+    Guarded_Event([&] { panel_.events.key_pressed(record_, Classic_Key_Code(*event)); });
+}
+
+void Control_Widget::focusInEvent(QFocusEvent*) {
+    Guarded_Event([&] { panel_.events.focus_gained(record_); });
+    update();
+}
+
+void Control_Widget::focusOutEvent(QFocusEvent*) {
+    Guarded_Event([&] { panel_.events.focus_lost(record_); });
+    update();
+}

@@ -1,0 +1,120 @@
+#include "panels/controls.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numbers>
+#include <string_view>
+
+#include "platform/text.h"
+
+namespace {
+
+constexpr double Dot_Radius = 5;
+
+// What the focus mark shows on a control of a kind: an item at rest, and the next one in the other phase.
+struct Kind_Row {
+    std::string_view kind;
+    Picture_Store store;
+    int resting_item;
+};
+
+// clang-format off
+constexpr std::array Kinds = {
+//           kind     store                   resting item
+    Kind_Row{"bl",    Picture_Store::Buttons, Thumb_Left},
+    Kind_Row{"br",    Picture_Store::Buttons, Thumb_Right},
+    Kind_Row{"bm",    Picture_Store::Buttons, Thumb_Slider},
+    Kind_Row{"kn1",   Picture_Store::Buttons, Knob_Dot},
+    Kind_Row{"kn2",   Picture_Store::Buttons, Knob_Dot},
+    Kind_Row{"kn2f",  Picture_Store::Buttons, Knob_Dot},
+    Kind_Row{"kn2fp", Picture_Store::Buttons, Knob_Dot},
+    Kind_Row{"knh",   Picture_Store::Buttons, Knob_Dot},
+    Kind_Row{"led",   Picture_Store::LED,     0},
+};
+// clang-format on
+
+// The knob that a kind names; null for other kinds.
+const Knob* Knob_Of_Kind(std::string_view kind) {
+    const auto* knob = std::find_if(Panel_Knobs.begin(), Panel_Knobs.end(), [kind](const Knob& candidate) {
+        return Same_Text(candidate.kind, kind);
+    });
+    return knob == Panel_Knobs.end() ? nullptr : knob;
+}
+
+bool Is_Knob(std::string_view kind) {
+    return Same_Text(kind.substr(0, 2), "kn");
+}
+
+// Gives the focused control the item of its kind that stands `step` behind the resting one.
+void Show_Item(const Kind_Row& row, int step) {
+    const Knob* knob = Knob_Of_Kind(row.kind);
+    Control* shown = knob == nullptr ? Panel_Current_Control : knob->dot;
+    if (shown != nullptr) shown->picture = Picture_Of(row.store, row.resting_item + step);
+}
+
+void Restore_Picture() {
+    if (Panel_Current_Control == nullptr) return;
+    const std::string_view kind = Panel_Current_Control->kind;
+    for (const Kind_Row& row : Kinds) {
+        if (Same_Text(row.kind, kind)) Show_Item(row, 0);
+    }
+    // The lamp that just lost the mark may be one that is on.
+    if (Same_Text(kind, "led") && Is_True(Patch_Window_Open)) Patch_Relight_Lamps();
+    Panel_Knob_Last_Y = 0;
+}
+
+void Place_Dot(Control& dot, int centre_left, int centre_top, double degrees) {
+    const double angle = (degrees + 90) * std::numbers::pi / 180;
+    dot.left = centre_left - To_Int16(Dot_Radius * std::cos(angle));
+    dot.top = centre_top - To_Int16(Dot_Radius * std::sin(angle));
+}
+
+}  // namespace
+
+std::uint8_t Panel_Blink_Phase = 1;
+std::int16_t Panel_Help_Context = 0;
+std::int16_t Panel_Last_Param = 0;
+std::int16_t Panel_Last_Value = 0;
+std::int16_t Panel_Knob_Last_Y = 0;
+double Panel_Scratch_Real = 0;
+std::array<Knob, 5> Panel_Knobs = {{{"kn1"}, {"kn2"}, {"kn2f"}, {"kn2fp"}, {"knh"}}};
+Hook<void()> Patch_Relight_Lamps;
+
+void Panel_Blink() {
+    if (Panel_Current_Control == nullptr) return;
+    for (const Kind_Row& row : Kinds) {
+        if (row.kind == Panel_Current_Control->kind) Show_Item(row, Panel_Blink_Phase);
+    }
+    Panel_Help_Context = Panel_Current_Control->help_context;
+}
+
+void Panel_Blink_Tick() {
+    ++Panel_Blink_Phase;
+    if (Panel_Blink_Phase > 1) Panel_Blink_Phase = 0;
+    Panel_Blink();
+}
+
+void Panel_Set_Knob(const char* kind, Control& dot, double (*shown_value)()) {
+    for (Knob& knob : Panel_Knobs) {
+        if (Same_Text(knob.kind, kind)) {
+            knob.dot = &dot;
+            knob.shown_value = shown_value;
+        }
+    }
+}
+
+void Panel_Knob_Dot(int centre_left, int centre_top, double degrees_a_unit) {
+    if (Panel_Current_Control == nullptr || !Is_Knob(Panel_Current_Control->kind)) return;
+    Place_Dot(*Panel_Current_Control, centre_left, centre_top, degrees_a_unit * Panel_Scratch_Real);
+}
+
+void Panel_Knob_Show(const std::string& kind, int centre_top, int centre_left, double degrees_a_unit) {
+    const Knob* knob = Knob_Of_Kind(kind);
+    if (knob == nullptr || knob->dot == nullptr) return;
+    Place_Dot(*knob->dot, centre_left, centre_top, degrees_a_unit * knob->shown_value());
+}
+
+void Controls_Install() {
+    Panel_Restore_Picture = Restore_Picture;
+}

@@ -1,0 +1,40 @@
+#include "panels/keyboard.h"
+
+#include <algorithm>
+
+#include "midi/out.h"
+#include "sequencer/sequence.h"
+
+namespace {
+
+constexpr std::int16_t C_Major[] = {60, 64, 67, 72};
+constexpr std::int16_t Chord_Velocity = 90;
+
+void Play_First_Column() {
+    for (int row = 0; row < Seq_Rows; ++row) {
+        Seq_SendNote(static_cast<std::int16_t>(Seq_Base_Note + Seq_Rows - 1 - row),
+                     Seq_Notes[static_cast<std::size_t>(row)]);
+    }
+}
+
+}  // namespace
+
+void Keys_Pic_MouseDown(Control& keys, Mouse_Button button) {
+    const bool column_filled = std::any_of(Seq_Notes.begin(), Seq_Notes.begin() + Seq_Rows,
+                                           [](std::int16_t velocity) { return velocity != 0; });
+    if (button == Mouse_Button::Left && MIDI_Enabled == 1) {
+        keys.picture = Picture_Of(Picture_Store::Buttons, Keys_Down);
+        if (MIDI_Out_Handle == Port_Closed) MIDI_Out_Open();
+        if (column_filled) {
+            Play_First_Column();
+        } else {
+            for (const std::int16_t note : C_Major) MIDI_SendNote(note, Chord_Velocity);
+        }
+    } else if (button == Mouse_Button::Right) {
+        MIDI_All_Notes_Off();
+    }
+}
+
+void Keys_Pic_MouseUp(Control& keys, Mouse_Button button) {
+    if (button == Mouse_Button::Right) keys.picture = Picture_Of(Picture_Store::Buttons, Keys_Up);
+}

@@ -1,0 +1,30 @@
+// A panel as its toolkit window sees it: the window's record, its controls, and where events go.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "panels/controls.h"
+
+enum class Mouse_Button { Left, Right, Middle };
+
+// What a widget reports. `row` is the pointer's row relative to the control at the moment of the event, in
+// pixels; every handler gets the control's record.
+struct Panel_Events {
+    void (*focus_gained)(Control&);
+    void (*focus_lost)(Control&);
+    void (*key_pressed)(Control&, int key);  // classic key code
+    void (*button_pressed)(Control&, Mouse_Button button);
+    void (*pointer_moved)(Control&, double row);  // with any button held
+    void (*button_released)(Control&, Mouse_Button button);
+    void (*clicked)(Control&);  // pressed and released inside
+    void (*activated)();
+    void (*deactivated)();
+};
+
+struct Panel {
+    Window* window;
+    std::vector<Control*> controls;  // those that take the focus stand in its order
+    Panel_Events events;
+    std::string (*spoken_value)(const Control&);  // what a screen reader says behind the name; ANSI
+};

@@ -1,0 +1,34 @@
+// A panel on the screen: its ground with the printing, and a widget for each control. Holds no rule: events
+// go to the panel's handlers, and what the records say is what is shown.
+#pragma once
+
+#include <QPixmap>
+#include <QWidget>
+#include <vector>
+
+#include "panels/panel.h"
+#include "panels/printing.h"
+
+class Control_Widget;
+
+class Panel_Window : public QWidget {
+  public:
+    Panel_Window(const Panel& panel, Printing printing, QWidget* parent);
+
+    // Brings widgets up to the records.
+    void Show_Changes();
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
+
+  private:
+    Control_Widget* Widget_Of(const Control* control) const;
+    void Give_Focus_Back();
+
+    const Panel& panel_;
+    Printing printing_;
+    QPixmap ground_;  // printed once for each device pixel ratio
+    std::vector<Control_Widget*> widgets_;
+    int times_raised_ = 0;
+};

@@ -1,0 +1,166 @@
+#include "panels/steps.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "platform/numbers.h"
+
+namespace {
+
+constexpr double Switch_Band = 32;
+constexpr double Octave = 12;
+
+}  // namespace
+
+void Panel_Inc(double& value) {
+    value += 1;
+}
+
+void Panel_Dec(double& value) {
+    if (value != 0) value -= 1;
+}
+
+double Clamped(double value, double lowest, double highest) {
+    return std::max(lowest, std::min(value, highest));
+}
+
+std::optional<double> Slider_Step(double value, int key, double page) {
+    switch (key) {
+        case Key_Up:
+        case Key_Keypad_Plus:
+            Panel_Inc(value);
+            break;
+        case Key_Down:
+        case Key_Keypad_Minus:
+            Panel_Dec(value);
+            break;
+        case Key_Page_Up:
+            value += page;
+            break;
+        case Key_Page_Down:
+            value -= page;
+            break;
+        case Key_Home:
+            value = Highest_Value;
+            break;
+        case Key_End:
+            value = 0;
+            break;
+        default:
+            return std::nullopt;
+    }
+    return Clamped(value, 0, Highest_Value);
+}
+
+std::optional<double> Switch_Step(double value, int key, double ceiling) {
+    switch (key) {
+        case Key_Up:
+        case Key_Keypad_Plus:
+        case Key_Page_Up:
+            value += Switch_Band;
+            break;
+        case Key_Down:
+        case Key_Keypad_Minus:
+        case Key_Page_Down:
+            value = value < Switch_Band ? 0 : value - Switch_Band;
+            break;
+        case Key_Home:
+            value = ceiling;
+            break;
+        case Key_End:
+            value = 0;
+            break;
+        default:
+            return std::nullopt;
+    }
+    return Clamped(value, 0, ceiling);
+}
+
+double Tune_Step(double semitones, int key) {
+    switch (key) {
+        case Key_Up:
+        case Key_Keypad_Plus:
+        case Key_Right:
+            Panel_Inc(semitones);
+            break;
+        case Key_Down:
+        case Key_Keypad_Minus:
+        case Key_Left:
+            Panel_Dec(semitones);
+            break;
+        case Key_Page_Up:
+            semitones += Octave / 2;
+            break;
+        case Key_Page_Down:
+            semitones -= Octave / 2;
+            break;
+        case Key_Home:
+            semitones = Octave;
+            break;
+        case Key_End:
+            semitones = -Octave;
+            break;
+        case Key_0:
+        case Key_Keypad_0:
+            semitones = 0;
+            break;
+        default:
+            break;
+    }
+    return Clamped(semitones, -Octave, Octave);
+}
+
+double Fine_Step(double byte, int key) {
+    constexpr double Page = 10;
+    constexpr double Centre = 63;
+    switch (key) {
+        case Key_Up:
+        case Key_Keypad_Plus:
+        case Key_Right:
+            Panel_Inc(byte);
+            break;
+        case Key_Down:
+        case Key_Keypad_Minus:
+        case Key_Left:
+            Panel_Dec(byte);
+            break;
+        case Key_Page_Up:
+            byte += Page;
+            break;
+        case Key_Page_Down:
+            byte -= Page;
+            break;
+        case Key_Home:
+            byte = Highest_Value;
+            break;
+        case Key_End:
+            byte = 0;
+            break;
+        case Key_0:
+        case Key_Keypad_0:
+            byte = Centre;
+            break;
+        default:
+            break;
+    }
+    return Clamped(byte, 0, Highest_Value);
+}
+
+double Toggled(double value) {
+    if (value >= 0 && value <= 63) return value + 64;
+    if (value >= 64 && value <= 127) return value - 64;
+    return value;
+}
+
+bool Toggles(int key) {
+    return (key >= Key_Page_Up && key <= Key_Home) || key == Key_Up || key == Key_Down ||
+           key == Key_Keypad_Plus || key == Key_Keypad_Minus;
+}
+
+double Slider_Dragged(double value, double row) {
+    return std::trunc(Clamped(value - row, 0, Highest_Value));
+}
+
+double Switch_Dragged(double value, double row) {
+    return Clamped(Round_Half_Even(value - row), 0, Highest_Value);
+}

@@ -1,0 +1,72 @@
+#include "platform/message_box.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QString>
+
+#include "platform/gate.h"
+
+namespace {
+
+QMessageBox::Icon Toolkit_Icon(Icon icon) {
+    switch (icon) {
+        case Icon::Stop:
+            return QMessageBox::Critical;
+        case Icon::Question:
+            return QMessageBox::Question;
+        case Icon::Exclamation:
+            return QMessageBox::Warning;
+        case Icon::Information:
+            return QMessageBox::Information;
+        case Icon::None:
+            break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons Toolkit_Buttons(Buttons_Set buttons) {
+    switch (buttons) {
+        case Buttons_Set::Yes_No:
+            return QMessageBox::Yes | QMessageBox::No;
+        case Buttons_Set::Yes_No_Cancel:
+            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+        case Buttons_Set::Retry_Cancel:
+            return QMessageBox::Retry | QMessageBox::Cancel;
+        case Buttons_Set::Ok:
+            break;
+    }
+    return QMessageBox::Ok;
+}
+
+Answer Answer_Of(int button, Buttons_Set buttons) {
+    switch (button) {
+        case QMessageBox::Yes:
+            return Answer::Yes;
+        case QMessageBox::No:
+            return Answer::No;
+        case QMessageBox::Retry:
+            return Answer::Retry;
+        case QMessageBox::Ok:
+            return Answer::Ok;
+        default:
+            break;
+    }
+    if (buttons == Buttons_Set::Ok) return Answer::Ok;
+    return buttons == Buttons_Set::Yes_No ? Answer::No : Answer::Cancel;
+}
+
+// One line end for the three that the texts have.
+QString Lines(const std::string& text) {
+    return QString::fromStdString(text).replace("\r\n", "\n").replace('\r', '\n').trimmed();
+}
+
+}  // namespace
+
+Answer Message_Box(const std::string& text, Buttons_Set buttons, Icon icon, const std::string& title) {
+    Windows_Show_Changes();
+    QMessageBox box(Toolkit_Icon(icon), QString::fromStdString(title), Lines(text),
+                    Toolkit_Buttons(buttons), QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);  // names of devices and files are no markup
+    box.setObjectName("Message_Box");
+    return Answer_Of(box.exec(), buttons);
+}

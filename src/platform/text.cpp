@@ -1,0 +1,57 @@
+#include "platform/text.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <system_error>
+
+namespace {
+
+constexpr std::string_view Blanks = " \t";
+
+char Lower(char letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
+
+bool Inside_Character(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
+
+}  // namespace
+
+std::string_view Right_Trimmed(std::string_view text) {
+    return text.substr(0, text.find_last_not_of(Blanks) + 1);
+}
+
+std::string_view Trimmed(std::string_view text) {
+    const std::size_t begin = text.find_first_not_of(Blanks);
+    return begin == std::string_view::npos ? std::string_view() : Right_Trimmed(text.substr(begin));
+}
+
+bool Same_Text(std::string_view left, std::string_view right) {
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [](char a, char b) { return Lower(a) == Lower(b); });
+}
+
+std::string_view Cut_At_Zero(std::string_view text) {
+    return text.substr(0, text.find('\0'));
+}
+
+std::string_view Cut_To_Bytes(std::string_view text, std::size_t bytes) {
+    if (text.size() <= bytes) return text;
+    std::size_t end = bytes;
+    // A character has at most three bytes behind its first; more of them are no UTF-8 anyway.
+    for (int step = 0; step < 3 && end > 0 && Inside_Character(text[end]); ++step) --end;
+    return text.substr(0, end);
+}
+
+double Number_At_Start(std::string_view text) {
+    text = Trimmed(text);
+    if (!text.empty() && text.front() == '+') text.remove_prefix(1);
+    // Words like "inf" and "nan" are no numbers here.
+    const std::size_t digit = text.find_first_not_of("-.");
+    if (digit == std::string_view::npos || text[digit] < '0' || text[digit] > '9') return 0;
+    double number = 0;
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
+    return read.ec == std::errc() && std::isfinite(number) ? number : 0;
+}

@@ -1,0 +1,149 @@
+#include "shell/app_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QPainter>
+
+#include "desk/menus.h"
+#include "desk/windows.h"
+#include "panels/editor.h"
+#include "panels/editor_printing.h"
+#include "panels/panel_window.h"
+#include "panels/pictures_qt.h"
+#include "platform/gate.h"
+#include "setup/setup_window.h"
+#include "shell/frame.h"
+
+namespace {
+
+// The frame's client area: the ground behind and around the panels.
+class Ground : public QWidget {
+  public:
+    explicit Ground(QWidget* parent) : QWidget(parent) { setObjectName("Back_Pic"); }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        const QPixmap& tile = Picture_Pixmap(Picture_Of(Picture_Store::Back_Pic), devicePixelRatioF());
+        QPainter(this).drawTiledPixmap(rect(), tile);
+    }
+    void mousePressEvent(QMouseEvent*) override { Guarded_Event(Main_Background_Click); }
+};
+
+// An entry is of use when something happens on it or below it.
+bool Has_Function(std::size_t index) {
+    if (Menu_Tree[index].chosen.Filled()) return true;
+    for (std::size_t below = index + 1; below < Menu_Tree.size(); ++below) {
+        if (Menu_Tree[below].level <= Menu_Tree[index].level) return false;
+        if (Menu_Tree[below].visible && Menu_Tree[below].chosen.Filled()) return true;
+    }
+    return false;
+}
+
+bool Is_Separator(const Menu_Entry& entry) {
+    return entry.caption == "-";
+}
+
+Qt::CursorShape Shape_Of(Pointer pointer) {
+    return pointer == Pointer::Hourglass ? Qt::WaitCursor : Qt::ArrowCursor;
+}
+
+}  // namespace
+
+App_Window::App_Window() : ground_(new Ground(this)) {
+    setObjectName(Main_Window.name);
+    setCentralWidget(ground_);
+    resize(Main_Window.width, Main_Window.height);
+    move(Main_Window.left, Main_Window.top);
+    Build_Menus();
+}
+
+App_Window::~App_Window() = default;
+
+void App_Window::Build_Menus() {
+    std::vector<QMenu*> open_menus;  // the menu at each level above the row
+    for (std::size_t index = 0; index < Menu_Tree.size(); ++index) {
+        const Menu_Entry& entry = Menu_Tree[index];
+        const auto level = static_cast<std::size_t>(entry.level);
+        open_menus.resize(level);
+        const bool has_below = index + 1 < Menu_Tree.size() && Menu_Tree[index + 1].level > entry.level;
+        QAction* action = nullptr;
+        if (has_below) {
+            QMenu* menu = level == 0 ? menuBar()->addMenu("") : open_menus.back()->addMenu("");
+            connect(menu, &QMenu::aboutToShow, [&entry] { Guarded_Event([&entry] { entry.opened(); }); });
+            open_menus.push_back(menu);
+            action = menu->menuAction();
+        } else {
+            action = open_menus.back()->addAction("");
+            action->setSeparator(Is_Separator(entry));
+            action->setShortcut(QKeySequence(entry.shortcut));
+            connect(action, &QAction::triggered, [&entry] { Guarded_Event([&entry] { entry.chosen(); }); });
+        }
+        action->setObjectName(entry.name);
+        entries_.push_back(action);
+    }
+}
+
+void App_Window::Show_Menus() {
+    for (std::size_t index = 0; index < Menu_Tree.size(); ++index) {
+        const Menu_Entry& entry = Menu_Tree[index];
+        QAction& action = *entries_[index];
+        action.setText(QString::fromStdString(entry.caption).trimmed());
+        action.setVisible(entry.visible && (Has_Function(index) || Is_Separator(entry)));
+        action.setEnabled(entry.enabled);
+        if (entry.checked) action.setCheckable(true);
+        if (action.isCheckable()) action.setChecked(entry.checked);
+    }
+}
+
+void App_Window::Show_Panels() {
+    if (Editor.loaded && editor_ == nullptr) {
+        editor_ = new Panel_Window(Editor_Panel, Editor_Printing(), ground_);
+        QWidget::setTabOrder(menuBar(), editor_);
+    }
+    if (editor_ != nullptr) editor_->Show_Changes();
+    if (MIDI_Setup.loaded && setup_ == nullptr) setup_ = new Setup_Window(this);
+    if (setup_ != nullptr) setup_->Show_Changes();
+}
+
+void App_Window::Show_Changes() {
+    // Moving focus and showing windows are events themselves and come back here.
+    if (showing_) return;
+    showing_ = true;
+    setWindowTitle(QString::fromStdString(Main_Window.caption));
+    if (cursor().shape() != Shape_Of(Main_Window.pointer)) setCursor(Shape_Of(Main_Window.pointer));
+    Show_Menus();
+    Show_Panels();
+    Show_Frame();
+    showing_ = false;
+}
+
+// The frame appears when the start-up has ended, above it a dialog that came with it; and goes with the
+// end.
+void App_Window::Show_Frame() {
+    if (isVisible() == Main_Window.visible) return;
+    setVisible(Main_Window.visible);
+    if (!Main_Window.visible) {
+        QApplication::quit();
+    } else if (setup_ != nullptr && setup_->isVisible()) {
+        setup_->raise();
+        setup_->activateWindow();
+    }
+}
+
+void App_Window::closeEvent(QCloseEvent* event) {
+    bool ended = false;
+    Guarded_Event([&ended] { ended = Main_Close(); });
+    event->setAccepted(ended);
+}
+
+void App_Window::moveEvent(QMoveEvent*) {
+    Main_Window.left = x();
+    Main_Window.top = y();
+}
+
+void App_Window::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    Main_Window.width = width();
+    Main_Window.height = height();
+}

@@ -1,0 +1,35 @@
+// The main window on the screen: menu bar, ground, panels, and the dialogs that belong to it.
+#pragma once
+
+#include <QMainWindow>
+#include <memory>
+#include <vector>
+
+class Panel_Window;
+class Setup_Window;
+
+class App_Window : public QMainWindow {
+  public:
+    App_Window();
+    ~App_Window() override;
+
+    // Brings every window up to the records. A window's widgets are made when its record is loaded.
+    void Show_Changes();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    void Build_Menus();
+    void Show_Menus();
+    void Show_Panels();
+    void Show_Frame();
+
+    QWidget* ground_;
+    Panel_Window* editor_ = nullptr;
+    Setup_Window* setup_ = nullptr;
+    std::vector<QAction*> entries_;  // one for each row of Menu_Tree
+    bool showing_ = false;
+};

@@ -1,0 +1,16 @@
+#include "shell/wiring.h"
+
+#include "desk/timers.h"
+#include "panels/controls.h"
+#include "panels/editor.h"
+#include "setup/setup.h"
+#include "shell/commands.h"
+#include "shell/frame.h"
+
+void Program_Wire() {
+    Controls_Install();
+    Editor_Install();
+    Setup_Install();
+    Commands_Install();
+    Timer_Display.tick = Main_Display_Tick;
+}

@@ -1,0 +1,73 @@
+#include "fakes/stage.h"
+
+#include <fstream>
+
+#include "platform/files.h"
+#include "shell/frame.h"
+#include "shell/wiring.h"
+
+Stage::Stage() {
+    Ports.out_names = {"Synth Out"};
+    Ports.in_names = {"Keys In"};
+    Program_Wire();
+}
+
+void Stage::TearDown() {
+    Check_All_Boxes_Came();
+}
+
+Started_Stage::Started_Stage() {
+    Write_Settings("[MIDI]\nOutput=Synth Out\nInput=Keys In\n");
+    EXPECT_TRUE(Main_Load());
+    Loop = {};
+}
+
+void Write_Settings(const std::string& text) {
+    std::ofstream(Test_Folder() + "/Tonebench.INI", std::ios::binary) << text;
+}
+
+std::string Read_Settings() {
+    return File_Read_Whole(Test_Folder() + "/Tonebench.INI").value_or("(none)");
+}
+
+Control& At(const std::string& name) {
+    for (Control* control : Editor_Panel.controls) {
+        if (name == control->name) return *control;
+    }
+    throw Fatal_Error("no control " + name);
+}
+
+void Focus(const std::string& name) {
+    Control& control = At(name);
+    if (Editor.active_control == &control && control.focusable) return;
+    if (Editor.active_control != nullptr) Editor_Panel.events.focus_lost(*Editor.active_control);
+    Editor_Panel.events.focus_gained(control);
+}
+
+void Press(const std::string& name, Mouse_Button button) {
+    Focus(name);
+    Editor_Panel.events.button_pressed(At(name), button);
+}
+
+void Drag(const std::string& name, double row) {
+    Editor_Panel.events.pointer_moved(At(name), row);
+}
+
+void Release(const std::string& name, Mouse_Button button) {
+    Editor_Panel.events.button_released(At(name), button);
+}
+
+void Click(const std::string& name) {
+    Press(name);
+    Release(name);
+    Editor_Panel.events.clicked(At(name));
+}
+
+void Key(const std::string& name, int key) {
+    Focus(name);
+    Editor_Panel.events.key_pressed(At(name), key);
+}
+
+std::string Shown() {
+    return Editor_Tone_Name.text;
+}
