@@ -1,5 +1,6 @@
 #include "panels/editor_printing.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
@@ -13,8 +14,11 @@ constexpr double Position_Size = 9;
 constexpr double Scale_Size = 8;
 
 constexpr double Thumb_Half = Thumb_Size / 2.0;
-constexpr double Label_Gap = 2;          // between a thumb and what is printed beside it
-constexpr double Caption_Gap = 4;        // between a caption's base line and the highest thumb
+constexpr double Label_Gap = 2;    // between a thumb and what is printed beside it
+constexpr double Caption_Gap = 4;  // between a caption's base line and the highest thumb
+constexpr double Mark_Gap = 1;     // between a thumb and the marks of its scale
+constexpr double Long_Mark = 3;
+constexpr double Short_Mark = 2;
 constexpr double Digit_Half_Height = 3;  // from the middle of a figure to its base line
 
 // -- groups: a heading and an outline
@@ -32,16 +36,16 @@ std::vector<Print_Point> Box(double left, double top, double right, double botto
 
 // clang-format off
 const std::array<Group_Row, 10> Groups = {{
-    {"DCO-1",  {8, 15},    Box(2.5, 3.5, 101.5, 249.5)},
-    {"DCO-2",  {110, 15},  {{104.5, 3.5}, {230.5, 3.5}, {230.5, 143.5}, {180.5, 143.5}, {180.5, 249.5}, {104.5, 249.5}}},
-    {"MIXER",  {239, 15},  {{233.5, 3.5}, {336.5, 3.5}, {336.5, 330.5}, {233.5, 330.5}, {233.5, 252.5}, {292.5, 252.5}, {292.5, 143.5}, {233.5, 143.5}}},
-    {"VCF",    {345, 15},  Box(339.5, 3.5, 464.5, 330.5)},
-    {"VCA",    {473, 15},  Box(467.5, 3.5, 525.5, 330.5)},
-    {"DCO",    {8, 263},   Box(2.5, 252.5, 101.5, 330.5)},
-    {"LFO",    {8, 344},   Box(2.5, 333.5, 117.5, 453.5)},
-    {"ENV-1",  {126, 344}, Box(120.5, 333.5, 300.5, 453.5)},
-    {"ENV-2",  {309, 344}, Box(303.5, 333.5, 479.5, 453.5)},
-    {"CHORUS", {485, 344}, Box(482.5, 333.5, 525.5, 453.5)},
+    {"DCO-1",  {6, 14},    Box(0.5, 2.5, 101.5, 249.5)},
+    {"DCO-2",  {110, 14},  {{104.5, 2.5}, {230.5, 2.5}, {230.5, 143.5}, {180.5, 143.5}, {180.5, 249.5}, {104.5, 249.5}}},
+    {"MIXER",  {239, 14},  {{233.5, 2.5}, {336.5, 2.5}, {336.5, 329.5}, {233.5, 329.5}, {233.5, 252.5}, {292.5, 252.5}, {292.5, 143.5}, {233.5, 143.5}}},
+    {"VCF",    {345, 14},  Box(339.5, 2.5, 464.5, 329.5)},
+    {"VCA",    {473, 14},  Box(467.5, 2.5, 527.5, 329.5)},
+    {"DCO",    {6, 263},   Box(0.5, 252.5, 101.5, 329.5)},
+    {"LFO",    {6, 342.5},   Box(0.5, 332.5, 117.5, 454.5)},
+    {"ENV-1",  {126, 342.5}, Box(120.5, 332.5, 298.5, 454.5)},
+    {"ENV-2",  {306, 342.5}, Box(300.5, 332.5, 479.5, 454.5)},
+    {"CHORUS", {486, 342.5}, Box(482.5, 332.5, 527.5, 454.5)},
 }};
 
 // -- captions and positions ---------------------------------------------------------------------------------
@@ -127,6 +131,15 @@ const Caption_Row& Caption_Of(const Editor_Row& row) {
     return Captions.front();
 }
 
+// Whether the table has another control within this many pixels to the right of a thumb, at its height.
+bool Neighbour_Within(const Editor_Row& row, int pixels) {
+    return std::any_of(Editor_Table.begin(), Editor_Table.end(), [&](const Editor_Row& other) {
+        const int gap = other.left - (row.left + Thumb_Size);
+        return gap >= 0 && gap < pixels && other.top_row <= row.bottom_row &&
+               other.bottom_row >= row.top_row;
+    });
+}
+
 double Middle_X(const Editor_Row& row) {
     return row.left + Thumb_Half;
 }
@@ -152,27 +165,37 @@ void Print_Rail(Printing& printing, const Editor_Row& row) {
         {{{x, row.top_row + Thumb_Half}, {x, row.bottom_row + Thumb_Half}}, 3, Ink::Rail});
 }
 
-// Marks at 0 to 10 on both sides, figures at 0, 5 and 10.
+void Print_Figure(Printing& printing, const Editor_Row& row, int unit, double y) {
+    // The logo stands to the left of this one.
+    const bool right = std::string_view(row.control) == "Mixer_ENV";
+    const double x =
+        right ? row.left + Thumb_Size + Mark_Gap + Long_Mark + 1 : row.left - Mark_Gap - Long_Mark - 1;
+    printing.texts.push_back({std::to_string(unit),
+                              {x, y + Digit_Half_Height},
+                              right ? Align::Left : Align::Right,
+                              Scale_Size,
+                              Ink::Print});
+}
+
+// Marks at 0 to 10 with figures at 0, 5 and 10: on both sides of the rail, or on the left alone where the
+// next thumb is near.
 void Print_Slider(Printing& printing, const Editor_Row& row) {
     constexpr int Units = 10;
+    constexpr int Room_For_Marks = 20;
+    const bool both_sides = !Neighbour_Within(row, Room_For_Marks);
     Print_Caption(printing, row, Middle_X(row));
     Print_Rail(printing, row);
     for (int unit = 0; unit <= Units; ++unit) {
         const double y = row.bottom_row + Thumb_Half - unit * Slider_Travel / Units;
         const bool numbered = unit % 5 == 0;
-        const double length = numbered ? 4 : 2.5;
+        const double length = numbered ? Long_Mark : Short_Mark;
+        const double width = numbered ? 2 : 1;
         const Ink ink = numbered ? Ink::Print : Ink::Faint;
-        const double left = row.left - 0.5;
-        const double right = row.left + Thumb_Size + 0.5;
-        printing.lines.push_back({{{left - length, y}, {left, y}}, 1, ink});
-        printing.lines.push_back({{{right, y}, {right + length, y}}, 1, ink});
-        if (numbered) {
-            printing.texts.push_back({std::to_string(unit),
-                                      {left - length - 1, y + Digit_Half_Height},
-                                      Align::Right,
-                                      Scale_Size,
-                                      Ink::Print});
-        }
+        const double left = row.left - Mark_Gap;
+        const double right = row.left + Thumb_Size + Mark_Gap;
+        printing.lines.push_back({{{left - length, y}, {left, y}}, width, ink});
+        if (both_sides) printing.lines.push_back({{{right, y}, {right + length, y}}, width, ink});
+        if (numbered) Print_Figure(printing, row, unit, y);
     }
 }
 
@@ -180,10 +203,11 @@ void Print_Position(Printing& printing, const Editor_Row& row, const Position& p
     const bool right = Labels_On_Right(row);
     const double edge = right ? row.left + Thumb_Size + Label_Gap : row.left - Label_Gap;
     if (position.symbol == Symbol::None) {
+        const bool long_name = std::string_view(position.name).size() > 3;
         printing.texts.push_back({position.name,
                                   {edge, y + Digit_Half_Height},
                                   right ? Align::Left : Align::Right,
-                                  Position_Size,
+                                  long_name ? Scale_Size : Position_Size,
                                   Ink::Print});
         return;
     }
@@ -199,7 +223,9 @@ void Print_Position(Printing& printing, const Editor_Row& row, const Position& p
 }
 
 void Print_Switch(Printing& printing, const Editor_Row& row) {
-    Print_Caption(printing, row, Middle_X(row));
+    // Above the thumb and the names beside it.
+    constexpr double Half_A_Name = 7;
+    Print_Caption(printing, row, Middle_X(row) + (Labels_On_Right(row) ? Half_A_Name : -Half_A_Name));
     Print_Rail(printing, row);
     for (int position = 0; position < Positions(row.type); ++position) {
         const auto index = static_cast<std::size_t>(position);

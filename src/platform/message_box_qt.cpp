@@ -1,6 +1,7 @@
 #include "platform/message_box.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QMessageBox>
 #include <QString>
 
@@ -8,20 +9,27 @@
 
 namespace {
 
-QMessageBox::Icon Toolkit_Icon(Icon icon) {
-    switch (icon) {
-        case Icon::Stop:
-            return QMessageBox::Critical;
-        case Icon::Question:
-            return QMessageBox::Question;
-        case Icon::Exclamation:
-            return QMessageBox::Warning;
-        case Icon::Information:
-            return QMessageBox::Information;
-        case Icon::None:
-            break;
+// Our own drawings, in the panels' colours; the toolkit's icon gives the box its kind for screen readers.
+struct Icon_Row {
+    Icon icon;
+    QMessageBox::Icon toolkit;
+    const char* drawing;
+};
+constexpr Icon_Row Icons[] = {
+    {Icon::None, QMessageBox::NoIcon, ""},
+    {Icon::Stop, QMessageBox::Critical, ":/icons/stop.svg"},
+    {Icon::Question, QMessageBox::Question, ":/icons/question.svg"},
+    {Icon::Exclamation, QMessageBox::Warning, ":/icons/exclamation.svg"},
+    {Icon::Information, QMessageBox::Information, ":/icons/information.svg"},
+};
+
+void Show_Icon(QMessageBox& box, Icon icon) {
+    constexpr int Size = 40;
+    for (const Icon_Row& row : Icons) {
+        if (row.icon != icon || icon == Icon::None) continue;
+        box.setIcon(row.toolkit);
+        box.setIconPixmap(QIcon(row.drawing).pixmap(QSize(Size, Size), box.devicePixelRatioF()));
     }
-    return QMessageBox::NoIcon;
 }
 
 QMessageBox::StandardButtons Toolkit_Buttons(Buttons_Set buttons) {

@@ -70,7 +70,6 @@ Setup_Window::Setup_Window(QWidget* parent) : QDialog(parent) {
     input_devices_ = List("Input_Devices", Setup_Input_Change);
     channel_ = List("Channel", Setup_Channel_Change);
     enable_ = Box("Enable", Setup_Caption_Enable, Setup_Enable_Click);
-    enable_->setLayoutDirection(Qt::RightToLeft);  // the caption ends in a colon: it stands before its box
     auto_send_ = Box("AutoSend", Setup_Caption_AutoSend, Setup_AutoSend_Click);
     auto_play_ = Box("AutoPlay", Setup_Caption_AutoPlay, Setup_AutoPlay_Click);
     ok_ = new QPushButton(Setup_Caption_OK, this);
@@ -87,7 +86,7 @@ Setup_Window::Setup_Window(QWidget* parent) : QDialog(parent) {
     Add_Row(*grid, "Label4", Setup_Label_Output, output_devices_);
     Add_Row(*grid, "Label2", Setup_Label_Input, input_devices_);
     Add_Row(*grid, "Label_Channel", Setup_Label_Channel, channel_);
-    grid->addWidget(enable_, grid->rowCount(), 0, 1, 2, Qt::AlignLeft);
+    grid->addWidget(enable_, grid->rowCount(), 0, 1, 2);
     grid->addWidget(auto_send_, grid->rowCount(), 0, 1, 2);
     grid->addWidget(auto_play_, grid->rowCount(), 0, 1, 2);
 
