@@ -72,8 +72,9 @@ QString Lines(const std::string& text) {
 
 Answer Message_Box(const std::string& text, Buttons_Set buttons, Icon icon, const std::string& title) {
     Windows_Show_Changes();
-    QMessageBox box(Toolkit_Icon(icon), QString::fromStdString(title), Lines(text),
+    QMessageBox box(QMessageBox::NoIcon, QString::fromStdString(title), Lines(text),
                     Toolkit_Buttons(buttons), QApplication::activeWindow());
+    Show_Icon(box, icon);
     box.setTextFormat(Qt::PlainText);  // names of devices and files are no markup
     box.setObjectName("Message_Box");
     return Answer_Of(box.exec(), buttons);

@@ -1,5 +1,5 @@
-// Looks after the one output that RtMidi has opened, because RtMidi does not tell when a port has gone, when
-// the whole service has gone, how much it can take, or whether it has handed everything over.
+// Looks after the one output that RtMidi has opened, because RtMidi does not tell when a port has gone,
+// when the whole service has gone, how much it can take, or whether it has handed everything over.
 //
 // One watch a service. Each holds a small client of its own beside RtMidi's, so making one is also the
 // question whether the service can be reached, asked without a line on the error output.

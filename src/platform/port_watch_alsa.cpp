@@ -1,6 +1,6 @@
 // The ALSA sequencer forgets a connection when its device is unplugged and goes on taking events. A device
-// that is plugged in again mostly comes back at the same address, but without the connection. So before each
-// send two questions go to the sequencer: is the port there, and does anybody listen to our output.
+// that is plugged in again mostly comes back at the same address, but without the connection. So before
+// each send two questions go to the sequencer: is the port there, and does anybody listen to our output.
 #include <alsa/asoundlib.h>
 #include <unistd.h>
 
@@ -78,7 +78,8 @@ class Alsa_Watch final : public Port_Watch {
 
     bool Port_Present() override {
         return target_ && source_ &&
-               snd_seq_get_any_port_info(sequencer_, target_->client, target_->port, port_info_.get()) == 0 &&
+               snd_seq_get_any_port_info(sequencer_, target_->client, target_->port, port_info_.get()) ==
+                   0 &&
                Ask_Subscription(*source_, SND_SEQ_QUERY_SUBS_READ, 0);
     }
 

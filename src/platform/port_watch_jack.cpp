@@ -51,7 +51,8 @@ class Jack_Watch final : public Port_Watch {
   public:
     explicit Jack_Watch(jack_client_t* client)
         : client_(client),
-          capacity_(std::min(Ring_Bytes, jack_port_type_get_buffer_size(client, JACK_DEFAULT_MIDI_TYPE) / 2)) {
+          capacity_(
+              std::min(Ring_Bytes, jack_port_type_get_buffer_size(client, JACK_DEFAULT_MIDI_TYPE) / 2)) {
         jack_on_shutdown(client_, On_Shutdown, this);
         jack_set_port_registration_callback(client_, On_Registration, this);
         jack_set_port_connect_callback(client_, On_Connection, this);
@@ -72,8 +73,8 @@ class Jack_Watch final : public Port_Watch {
         earlier_connections_ = Connections();
     }
 
-    // RtMidi does not look whether the connection came about, and does not tell the name of its port. So the
-    // port is the one that is newly connected with the target.
+    // RtMidi does not look whether the connection came about, and does not tell the name of its port. So
+    // the port is the one that is newly connected with the target.
     bool After_Open() override {
         const auto deadline = Clock::now() + Connecting_Time;
         while (!Find_Source()) {
@@ -93,7 +94,8 @@ class Jack_Watch final : public Port_Watch {
         const bool news = changed_.exchange(false, std::memory_order_acq_rel);
         if (news) look_again_until_ = Clock::now() + Settling_Time;
         if (news || settling_) {
-            gone_ = jack_port_by_name(client_, target_.c_str()) == nullptr || jack_port_connected(source_) <= 0;
+            gone_ =
+                jack_port_by_name(client_, target_.c_str()) == nullptr || jack_port_connected(source_) <= 0;
             settling_ = Clock::now() < look_again_until_;
         }
         return !gone_;
