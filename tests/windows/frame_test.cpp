@@ -1,0 +1,196 @@
+#include <QComboBox>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "desk/menus.h"
+#include "desk/windows.h"
+#include "midi/out.h"
+#include "panels/editor.h"
+#include "setup/setup.h"
+#include "synth/profile.h"
+#include "synth/tone.h"
+#include "windows/screen.h"
+
+class Frame : public Screen {
+  protected:
+    QStringList Bar() const {
+        QStringList shown;
+        for (const QAction* action : window_->menuBar()->actions()) {
+            if (action->isVisible()) shown << action->text();
+        }
+        return shown;
+    }
+    QAction* Entry(const char* name) const {
+        for (QAction* action : window_->findChildren<QAction*>()) {
+            if (action->objectName() == name) return action;
+        }
+        return nullptr;
+    }
+    void Shortcut(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key, Qt::ControlModifier); }
+};
+
+TEST_F(Frame, shows_the_menus_that_have_a_function) {
+    Start();
+    EXPECT_EQ(Bar(), (QStringList{"&File", "&MIDI", "&Tone"}));
+    EXPECT_TRUE(Entry("Menu_File_Exit")->isVisible());
+    EXPECT_TRUE(Entry("Menu_MIDI_Setup")->isVisible());
+    EXPECT_TRUE(Entry("Menu_MIDI_CloseOutput")->isVisible());
+    EXPECT_TRUE(Entry("Menu_Tone_Send")->isVisible());
+    EXPECT_FALSE(Entry("Menu_Tone_Receive")->isVisible());
+    EXPECT_EQ(Entry("Menu_Tone_Send")->text(), "Sen&d");
+    EXPECT_EQ(Entry("Menu_Tone_Send")->shortcut(), QKeySequence("Ctrl+T"));
+    EXPECT_EQ(Entry("Menu_File_Exit")->shortcut(), QKeySequence("Ctrl+X"));
+}
+
+TEST_F(Frame, shows_an_entry_as_soon_as_it_has_a_function) {
+    Start();
+    Menu(Menu_Tone_Random).chosen = [] {};
+    window_->Show_Changes();
+    EXPECT_TRUE(Entry("Menu_Tone_Random")->isVisible());
+}
+
+TEST_F(Frame, sends_the_tone_by_its_shortcut) {
+    Start();
+    Shortcut(Qt::Key_T);
+    const auto sent = Sent();
+    ASSERT_EQ(sent.size(), 1U);
+    EXPECT_EQ(sent[0].size(), 90U * 3 - 1);
+}
+
+TEST_F(Frame, gives_a_hidden_or_disabled_entry_no_shortcut) {
+    static int received = 0;
+    Menu(Menu_Tone_Receive).chosen = [] { ++received; };
+    Start();
+    Shortcut(Qt::Key_V);
+    EXPECT_EQ(received, 0);
+    Menu(Menu_Tone_Send).enabled = false;
+    window_->Show_Changes();
+    Shortcut(Qt::Key_T);
+    Menu(Menu_Tone_Send).enabled = true;
+    Menu(Menu_Tone).enabled = false;
+    window_->Show_Changes();
+    Shortcut(Qt::Key_T);
+    EXPECT_TRUE(Sent().empty());
+}
+
+TEST_F(Frame, opens_the_setup_dialog_at_a_first_start_and_locks_the_rest) {
+    Expect_Box("MIDI output device not configured - starting MIDI setup.");
+    Expect_Box("MIDI input device not configured - starting MIDI setup.");
+    Start("");
+    QWidget* dialog = Widget("MIDI_Setup");
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(dialog->windowTitle(), "MIDI Setup");
+    EXPECT_FALSE(Widget("Editor")->isEnabled());
+    EXPECT_FALSE(Entry("Menu_File")->isEnabled());
+    EXPECT_EQ(window_->cursor().shape(), Qt::WaitCursor);
+    EXPECT_EQ(dialog->cursor().shape(), Qt::ArrowCursor);
+    auto* outputs = window_->findChild<QComboBox*>("Output_Devices");
+    EXPECT_EQ(outputs->count(), 2);
+    EXPECT_EQ(outputs->currentText(), "Synth Out");
+
+    Answer_With(Setup_Reminder("JX-8P"), Answer::Ok);
+    QTest::keyClick(outputs, Qt::Key_Down);
+    QTest::mouseClick(Widget("Cmd_OK"), Qt::LeftButton);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_TRUE(Widget("Editor")->isEnabled());
+    EXPECT_TRUE(Entry("Menu_File")->isEnabled());
+    EXPECT_EQ(MIDI_Out_Device, 1);
+    EXPECT_EQ(window_->cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(Frame, closes_the_setup_dialog_on_escape_and_on_its_close_box) {
+    Start();
+    Entry("Menu_MIDI_Setup")->trigger();
+    ASSERT_TRUE(Widget("MIDI_Setup")->isVisible());
+    QTest::keyClick(Widget("MIDI_Setup"), Qt::Key_Escape);
+    EXPECT_FALSE(Widget("MIDI_Setup")->isVisible());
+    EXPECT_FALSE(MIDI_Setup.loaded);
+    Entry("Menu_MIDI_Setup")->trigger();
+    Widget("MIDI_Setup")->close();
+    EXPECT_FALSE(MIDI_Setup.loaded);
+}
+
+TEST_F(Frame, centres_the_setup_dialog_and_shows_every_label) {
+    Start();
+    Entry("Menu_MIDI_Setup")->trigger();
+    const QWidget* dialog = Widget("MIDI_Setup");
+    EXPECT_NEAR(dialog->geometry().center().x(), window_->geometry().center().x(), 1);
+    EXPECT_NEAR(dialog->geometry().center().y(), window_->geometry().center().y(), 1);
+    for (const auto& [name, text] : {std::pair{"LabelSynth", "&Synthesizer"},
+                                     {"Label4", "&Output Device"},
+                                     {"Label2", "&Input Device"},
+                                     {"Label_Channel", "MIDI &Channel"}}) {
+        EXPECT_EQ(window_->findChild<QLabel*>(name)->text(), text);
+    }
+    for (const char* name : {"SynthesizerType", "Output_Devices", "Input_Devices", "Channel", "Enable",
+                             "AutoSend", "AutoPlay", "Cmd_OK", "Frame1"}) {
+        EXPECT_TRUE(
+            dialog->rect().contains(QRect(Widget(name)->mapTo(dialog, QPoint(0, 0)), Widget(name)->size())))
+            << name;
+    }
+}
+
+TEST_F(Frame, does_not_let_a_name_of_10000_characters_stretch_the_dialog) {
+    Ports.out_names = {std::string(10000, 'x')};
+    Expect_Box("MIDI output device (Synth Out) not available - starting MIDI setup.");
+    Start();
+    EXPECT_LE(Widget("MIDI_Setup")->width(), 541);
+}
+
+TEST_F(Frame, changes_the_instrument_at_once_from_the_dialog) {
+    Start();
+    Entry("Menu_MIDI_Setup")->trigger();
+    auto* types = window_->findChild<QComboBox*>("SynthesizerType");
+    QTest::keyClick(types, Qt::Key_Down);
+    EXPECT_EQ(Synthesizer, "MKS-70");
+    EXPECT_EQ(Sysex_Header_IPR, "F0 41 36 0 24 20 01 ");
+    QTest::keyClick(types, Qt::Key_Down);
+    EXPECT_EQ(Synthesizer, "Alpha Juno");
+    EXPECT_FALSE(Widget("Editor")->isVisible());
+    QTest::keyClick(types, Qt::Key_Up);
+    EXPECT_TRUE(Widget("Editor")->isVisible());
+    EXPECT_TRUE(Widget("MIDI_Setup")->isVisible());
+}
+
+TEST_F(Frame, asks_at_the_close_box_and_stays_on_cancel) {
+    Start();
+    Tone_Saved = Flag_16::False;
+    Answer_With("Save actual TONE first?", Answer::Cancel);
+    EXPECT_FALSE(window_->close());
+    EXPECT_TRUE(window_->isVisible());
+    Answer_With("Save actual TONE first?", Answer::No);
+    EXPECT_TRUE(window_->close());
+    EXPECT_FALSE(window_->isVisible());
+}
+
+TEST_F(Frame, ends_by_its_shortcut_and_closes_the_port) {
+    Start();
+    Widget("VCF_Res")->setFocus();
+    QTest::keyClick(Widget("VCF_Res"), Qt::Key_Home);
+    ASSERT_NE(MIDI_Out_Handle, Port_Closed);
+    Answer_With("Save actual TONE first?", Answer::No);
+    Shortcut(Qt::Key_X);
+    EXPECT_FALSE(window_->isVisible());
+    EXPECT_EQ(MIDI_Out_Handle, Port_Closed);
+    EXPECT_EQ(Sent().back(), "B0 7B 00");
+}
+
+TEST_F(Frame, survives_a_mistake_in_a_handler_and_tells_it) {
+    Menu(Menu_Tone_Random).chosen = [] { throw Fatal_Error("Overflow"); };
+    Start();
+    Expect_Box("Overflow");
+    Shortcut(Qt::Key_R);
+    EXPECT_TRUE(window_->isVisible());
+}
+
+TEST_F(Frame, remembers_where_it_was_moved) {
+    Start();
+    window_->move(77, 55);
+    window_->resize(600, 550);
+    QTest::qWait(1);
+    EXPECT_EQ(Main_Window.left, 77);
+    EXPECT_EQ(Main_Window.top, 55);
+    EXPECT_EQ(Main_Window.width, 600);
+    EXPECT_EQ(Main_Window.height, 550);
+}
