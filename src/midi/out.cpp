@@ -36,7 +36,12 @@ bool Port_Failing = false;
 std::int16_t Close_When_Quiet() {
     bool windows_open = Event_Loop_Turn();
     while (windows_open) {
+        // One of the events may have closed it.
+        if (MIDI_Out_Handle == Port_Closed) return 0;
         const std::int16_t result = Kept(Port_Out_Close(MIDI_Out_Handle));
+        // A close that failed may have left the port closed all the same. The try that follows its report
+        // must not report that in turn: there would be no end to the boxes.
+        if (result == Port_Bad_Handle && Port_Failing) return 0;
         if (result != Port_Still_Playing) return result;
         windows_open = Event_Loop_Wait(Close_Wait_Milliseconds);
     }

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <QMessageBox>
+#include <QPointer>
 #include <QString>
 
 #include "platform/gate.h"
@@ -72,10 +73,14 @@ QString Lines(const std::string& text) {
 
 Answer Message_Box(const std::string& text, Buttons_Set buttons, Icon icon, const std::string& title) {
     Windows_Show_Changes();
+    const QPointer<QWidget> before = QApplication::activeWindow();
     QMessageBox box(QMessageBox::NoIcon, QString::fromStdString(title), Lines(text),
-                    Toolkit_Buttons(buttons), QApplication::activeWindow());
+                    Toolkit_Buttons(buttons), before);
     Show_Icon(box, icon);
     box.setTextFormat(Qt::PlainText);  // names of devices and files are no markup
     box.setObjectName("Message_Box");
-    return Answer_Of(box.exec(), buttons);
+    const Answer answer = Answer_Of(box.exec(), buttons);
+    // Keys go on where they went before, also where no window manager sees to it.
+    if (before != nullptr) before->activateWindow();
+    return answer;
 }

@@ -81,7 +81,7 @@ std::string Base_Name(const std::string& raw) {
 }
 
 std::string Marked(const std::string& base, std::size_t number) {
-    const std::string mark = "(" + std::to_string(number) + ")";
+    std::string mark = "(" + std::to_string(number) + ")";
     // The settings file brings a value back without blanks at its ends, so the mark alone has none.
     if (base.empty()) return mark;
     return Fitting(base, Longest_Port_Name - 1 - mark.size()) + " " + mark;

@@ -22,6 +22,10 @@ class Port_Watch {
     // False once the service has gone for good. From then on no call into RtMidi's clients returns in time.
     virtual bool Service_Alive() const = 0;
 
+    // False when the service does nothing at the moment. What then asks it something may wait for ever.
+    // May take some periods of the service to find out.
+    virtual bool Service_Runs() = 0;
+
     // Called before and after RtMidi opens the port of that raw name. False when RtMidi is not connected
     // with it, which RtMidi itself may take for success.
     virtual void Before_Open(const std::string& raw_name) = 0;

@@ -57,6 +57,7 @@ class Alsa_Watch final : public Port_Watch {
 
     // The sequencer is part of the kernel and cannot go while it is open.
     bool Service_Alive() const override { return true; }
+    bool Service_Runs() override { return true; }
 
     void Before_Open(const std::string& raw_name) override {
         target_ = Address_In(raw_name);

@@ -5,6 +5,9 @@
 // A message too long for the ring is dropped, one too many spins until there is room (for ever when the
 // server has died), and one too many for the port's buffer is dropped. None of it is told. So this watch
 // counts what went in during the last periods and refuses before any of the three can happen.
+//
+// A period counts when our own process callback has run in it. The server's clock would not do: it goes on
+// while the server waits for a client that hangs, and calls nobody.
 #include <jack/jack.h>
 #include <jack/midiport.h>
 
@@ -31,6 +34,9 @@ constexpr std::size_t Bytes_A_Message = 12;
 // does not wait for its clients.
 constexpr std::uint32_t Periods_To_Hand_Over = 3;
 
+// How long a running server may take for a period; the longest usual ones are 8192 frames.
+constexpr auto Longest_Period = std::chrono::milliseconds(250);
+
 // For how long after a change the graph is looked at again at each send: the news of a change may come
 // before the change itself can be seen.
 constexpr auto Settling_Time = std::chrono::milliseconds(200);
@@ -54,6 +60,7 @@ class Jack_Watch final : public Port_Watch {
           capacity_(
               std::min(Ring_Bytes, jack_port_type_get_buffer_size(client, JACK_DEFAULT_MIDI_TYPE) / 2)) {
         jack_on_shutdown(client_, On_Shutdown, this);
+        jack_set_process_callback(client_, On_Process, this);
         jack_set_port_registration_callback(client_, On_Registration, this);
         jack_set_port_connect_callback(client_, On_Connection, this);
     }
@@ -66,6 +73,16 @@ class Jack_Watch final : public Port_Watch {
     bool Activate() { return jack_activate(client_) == 0; }
 
     bool Service_Alive() const override { return !dead_.load(std::memory_order_acquire); }
+
+    bool Service_Runs() override {
+        const std::uint32_t before = Periods();
+        const auto deadline = Clock::now() + Longest_Period;
+        while (Periods() == before) {
+            if (!Service_Alive() || Clock::now() >= deadline) return false;
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
+        return true;
+    }
 
     void Before_Open(const std::string& raw_name) override {
         target_ = raw_name;
@@ -84,7 +101,7 @@ class Jack_Watch final : public Port_Watch {
         changed_ = false;
         gone_ = false;
         recent_bytes_ = older_bytes_ = 0;
-        section_began_ = last_sent_ = jack_last_frame_time(client_);
+        section_began_ = last_sent_ = Periods();
         return true;
     }
 
@@ -110,14 +127,18 @@ class Jack_Watch final : public Port_Watch {
 
     void Note_Sent(std::size_t size) override {
         recent_bytes_ += size + Bytes_A_Message;
-        last_sent_ = jack_last_frame_time(client_);
+        last_sent_ = Periods();
     }
 
-    bool Handed_Over() override { return jack_last_frame_time(client_) - last_sent_ >= Hand_Over_Frames(); }
+    bool Handed_Over() override { return Periods() - last_sent_ >= Periods_To_Hand_Over; }
 
   private:
     static void On_Shutdown(void* self) {
         static_cast<Jack_Watch*>(self)->dead_.store(true, std::memory_order_release);
+    }
+    static int On_Process(jack_nframes_t /*frames*/, void* self) {
+        static_cast<Jack_Watch*>(self)->periods_.fetch_add(1, std::memory_order_release);
+        return 0;
     }
     static void On_Registration(jack_port_id_t /*port*/, int /*on*/, void* self) {
         static_cast<Jack_Watch*>(self)->changed_.store(true, std::memory_order_release);
@@ -141,23 +162,25 @@ class Jack_Watch final : public Port_Watch {
         return false;
     }
 
-    std::uint32_t Hand_Over_Frames() const { return Periods_To_Hand_Over * jack_get_buffer_size(client_); }
+    // Periods played so far; the number starts again at 0 after some months.
+    std::uint32_t Periods() const { return periods_.load(std::memory_order_acquire); }
 
     // Time is cut into sections, each long enough to hand everything over. What was sent before the last
     // section is out of the ring. When the server stands still no section ends, and the room stays used up.
     void Forget_Old_Bytes() {
-        const std::uint32_t now = jack_last_frame_time(client_);
+        const std::uint32_t now = Periods();
         const std::uint32_t passed = now - section_began_;
-        if (passed < Hand_Over_Frames()) return;
-        older_bytes_ = passed < 2 * Hand_Over_Frames() ? recent_bytes_ : 0;
+        if (passed < Periods_To_Hand_Over) return;
+        older_bytes_ = passed < 2 * Periods_To_Hand_Over ? recent_bytes_ : 0;
         recent_bytes_ = 0;
         section_began_ = now;
     }
 
     jack_client_t* client_;
     std::size_t capacity_;
-    std::atomic<bool> dead_ = false;     // written by libjack's threads
-    std::atomic<bool> changed_ = false;  // set by libjack's threads, cleared here
+    std::atomic<bool> dead_ = false;          // written by libjack's threads
+    std::atomic<bool> changed_ = false;       // set by libjack's threads, cleared here
+    std::atomic<std::uint32_t> periods_ = 0;  // written by libjack's thread
 
     std::string target_;             // the port at the other end
     jack_port_t* source_ = nullptr;  // RtMidi's port
@@ -169,7 +192,7 @@ class Jack_Watch final : public Port_Watch {
     std::size_t recent_bytes_ = 0;  // sent in this section
     std::size_t older_bytes_ = 0;   // sent in the section before
     std::uint32_t section_began_ = 0;
-    std::uint32_t last_sent_ = 0;  // in frames, like section_began_
+    std::uint32_t last_sent_ = 0;  // in periods, like section_began_
 };
 
 }  // namespace

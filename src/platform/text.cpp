@@ -47,9 +47,10 @@ std::string_view Cut_To_Bytes(std::string_view text, std::size_t bytes) {
 
 double Number_At_Start(std::string_view text) {
     text = Trimmed(text);
-    if (!text.empty() && text.front() == '+') text.remove_prefix(1);
-    // Words like "inf" and "nan" are no numbers here.
-    const std::size_t digit = text.find_first_not_of("-.");
+    const bool plus = text.starts_with('+');
+    if (plus) text.remove_prefix(1);
+    // Words like "inf" and "nan" are no numbers here, and one sign is enough.
+    const std::size_t digit = text.find_first_not_of(plus ? "." : "-.");
     if (digit == std::string_view::npos || text[digit] < '0' || text[digit] > '9') return 0;
     double number = 0;
     const auto read = std::from_chars(text.data(), text.data() + text.size(), number);

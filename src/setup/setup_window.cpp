@@ -97,7 +97,10 @@ Setup_Window::Setup_Window(QWidget* parent) : QDialog(parent) {
 
 void Setup_Window::Show_Changes() {
     if (!MIDI_Setup.visible) {
-        if (isVisible()) QDialog::hide();
+        if (isVisible()) {
+            QDialog::hide();
+            parentWidget()->activateWindow();
+        }
         return;
     }
     const Setup_Form& form = MIDI_Setup_Form;

@@ -125,10 +125,12 @@ void App_Window::Show_Frame() {
     setVisible(Main_Window.visible);
     if (!Main_Window.visible) {
         QApplication::quit();
-    } else if (setup_ != nullptr && setup_->isVisible()) {
-        setup_->raise();
-        setup_->activateWindow();
+        return;
     }
+    QWidget* front = this;
+    if (setup_ != nullptr && setup_->isVisible()) front = setup_;
+    front->raise();
+    front->activateWindow();
 }
 
 void App_Window::closeEvent(QCloseEvent* event) {

@@ -67,6 +67,7 @@ Port_Result Port_Out_Ready(Port_Handle handle) {
 }
 
 Port_Result Port_Out_Long(Port_Handle handle, std::string_view bytes) {
+    ++Ports.long_calls;
     if (!Is_Open(handle)) return Port_Bad_Handle;
     if (Ports.long_result == Port_Ok && Ports.ready_result == Port_Ok)
         Ports.sent.push_back(Hex_Line(bytes));

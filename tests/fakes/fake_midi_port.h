@@ -19,6 +19,7 @@ struct Fake_Ports {
     std::vector<int> opened;        // device of each successful open
     int open_calls = 0;
     int close_calls = 0;
+    int long_calls = 0;  // also those that failed
     Port_Handle open_handle = Port_Closed;
 };
 extern Fake_Ports Ports;

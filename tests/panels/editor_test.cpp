@@ -353,6 +353,23 @@ TEST_F(The_Editor, keyboard_plays_the_first_column_when_it_holds_anything) {
     EXPECT_EQ(sent[12], "95 30 3F");
 }
 
+TEST_F(The_Editor, keyboard_tells_a_port_that_cannot_be_opened_once) {
+    Seq_Notes[0] = 127;
+    Ports.open_result = Port_Failed;
+    Expect_Box("MIDI_Out_Open*: (1) Text of 1");
+    Press("Keys_Pic");
+    EXPECT_EQ(Sent(), Lines{});
+}
+
+TEST_F(The_Editor, keyboard_tells_a_port_that_has_gone_once) {
+    Seq_Notes[0] = 127;
+    Press("Keys_Pic");
+    Ports.send_result = Port_Gone;
+    Expect_Box("Seq_SendNote*: (68) Text of 68");
+    Press("Keys_Pic");
+    EXPECT_EQ(MIDI_Enabled, 0);
+}
+
 TEST_F(The_Editor, keyboard_takes_an_empty_first_column_for_an_empty_matrix) {
     Seq_Notes[13] = 127;
     Press("Keys_Pic");

@@ -1,0 +1,149 @@
+#include "e2e/desktop.h"
+
+#include <algorithm>
+#include <fstream>
+#include <sstream>
+#include <thread>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto Patience = 10s;
+
+std::string Temporary_Folder() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "tonebench-desktop-XXXXXX").string();
+    if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no temporary folder");
+    return pattern;
+}
+
+// Asks again and again until the answer is yes or the patience is over.
+template <class Question>
+bool Wait_For(const Question& question) {
+    const auto end = std::chrono::steady_clock::now() + Patience;
+    while (!question()) {
+        if (std::chrono::steady_clock::now() > end) return false;
+        std::this_thread::sleep_for(20ms);
+    }
+    return true;
+}
+
+}  // namespace
+
+Desktop::Desktop() : folder_(Temporary_Folder()) {
+    std::filesystem::copy(BUILD_DIR "/tonebench", folder_ / "tonebench");
+    std::filesystem::copy(BUILD_DIR "/JX8P.FNT", folder_ / "JX8P.FNT");
+    screen_ = std::make_unique<Child_Process>(std::vector<std::string>{
+        "Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"});
+    if (!Wait_For([this] { return !screen_->Output().empty(); }))
+        throw std::runtime_error("no virtual screen");
+    setenv("DISPLAY", (":" + screen_->Output().front()).c_str(), 1);
+    setenv("QT_QPA_PLATFORM", "xcb", 1);
+    setenv("XDG_RUNTIME_DIR", folder_.c_str(), 1);
+}
+
+Desktop::~Desktop() {
+    program_.reset();
+    sender_.reset();
+    witness_.reset();
+    jack_.reset();
+    screen_.reset();
+    std::error_code error;
+    std::filesystem::remove_all(folder_, error);
+}
+
+void Desktop::Start_Jack() {
+    jack_ = std::make_unique<Jack_Server>();
+    jack_->Start();
+    witness_ = Started_Midi_Dump("witness");
+    sender_ = std::make_unique<Child_Process>(
+        std::vector<std::string>{"jack_midiseq", "sender", "48000", "0", "60", "8000"});
+    if (!Wait_For_Jack_Port("witness:input", true) || !Wait_For_Jack_Port("sender:out", true)) {
+        throw std::runtime_error("the witness has no port");
+    }
+}
+
+bool Desktop::Wait_For_Jack_Port(const std::string& name, bool there) {
+    return Wait_For([&] {
+        Child_Process list({"jack_lsp"});
+        list.Wait_For_End(Patience);
+        return list.Wait_For_Line(name, 0ms) == there;
+    });
+}
+
+void Desktop::Start_Program(const std::string& settings, const Child_Process::Environment& changes) {
+    if (!settings.empty()) std::ofstream(folder_ / "Tonebench.INI", std::ios::binary) << settings;
+    program_ = std::make_unique<Child_Process>(std::vector<std::string>{(folder_ / "tonebench").string()},
+                                               changes);
+}
+
+std::string Desktop::Xdotool(const std::vector<std::string>& arguments) {
+    std::vector<std::string> command = {"xdotool"};
+    command.insert(command.end(), arguments.begin(), arguments.end());
+    Child_Process tool(command);
+    tool.Wait_For_End(Patience);
+    std::string text;
+    for (const std::string& line : tool.Output()) text += line + "\n";
+    return text;
+}
+
+void Desktop::Move_To(int x, int y) {
+    Xdotool({"mousemove", std::to_string(x), std::to_string(y)});
+}
+void Desktop::Press_Key(const std::string& key) {
+    Xdotool({"key", key});
+}
+
+bool Desktop::Wait_For_Focus(const std::string& title) {
+    return Wait_For([&] { return Xdotool({"getwindowfocus", "getwindowname"}) == title + "\n"; });
+}
+
+int Desktop::Windows_Named(const std::string& title) {
+    const std::string list = Xdotool({"search", "--onlyvisible", "--name", "^" + title + "$"});
+    return static_cast<int>(std::count(list.begin(), list.end(), '\n'));
+}
+
+void Desktop::Answer_Box(const std::string& key, int windows_left) {
+    // A box has the program's name; so has the frame once it is there.
+    EXPECT_TRUE(Wait_For([&] { return Windows_Named("Tonebench") > windows_left; })) << "no box";
+    EXPECT_TRUE(Wait_For_Focus("Tonebench"));
+    std::this_thread::sleep_for(200ms);
+    Press_Key(key);
+    EXPECT_TRUE(Wait_For([&] { return Windows_Named("Tonebench") <= windows_left; })) << "the box stays";
+    if (windows_left > 0) {
+        EXPECT_TRUE(Wait_For_Focus("Tonebench"));
+    }
+    std::this_thread::sleep_for(100ms);
+}
+
+bool Desktop::Wait_For_Window(const std::string& title, bool there) {
+    return Wait_For([&] { return Xdotool({"search", "--onlyvisible", "--name", title}).empty() != there; });
+}
+
+// The panel is painted when its ground shows below the menu bar.
+int Desktop::Menu_Height() {
+    Child_Process picture({"import", "-window", "root", "-crop", "1x100+520+0", "-depth", "8", "txt:-"});
+    picture.Wait_For_End(Patience);
+    for (const std::string& line : picture.Output()) {
+        if (line.find("#1B1D21") == std::string::npos) continue;
+        return std::stoi(line.substr(line.find(',') + 1));
+    }
+    return 0;
+}
+
+void Desktop::Wait_For_Main_Window() {
+    ASSERT_TRUE(Wait_For([this] { return Menu_Height() > 0; })) << "the panel does not show";
+    Wait_For([this] { return !Xdotool({"getwindowfocus", "getwindowname"}).empty(); });
+    std::this_thread::sleep_for(200ms);
+}
+
+std::vector<std::string> Desktop::Witnessed(std::size_t count) {
+    Wait_For([&] { return Messages_Dumped(*witness_).size() >= count; });
+    return Messages_Dumped(*witness_);
+}
+
+std::string Desktop::Settings() const {
+    std::ostringstream text;
+    text << std::ifstream(folder_ / "Tonebench.INI", std::ios::binary).rdbuf();
+    return text.str();
+}

@@ -1,0 +1,144 @@
+#include "platform/files.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+
+#include "fakes/fake_program.h"
+
+namespace {
+
+std::string Path(const std::string& name) {
+    return Test_Folder() + "/" + name;
+}
+
+void Write(const std::string& path, const std::string& contents) {
+    std::ofstream(path, std::ios::binary) << contents;
+}
+
+std::string Read(const std::string& path) {
+    return File_Read_Whole(path).value_or("(none)");
+}
+
+struct stat Facts(const std::string& path) {
+    struct stat facts = {};
+    EXPECT_EQ(::stat(path.c_str(), &facts), 0) << path;
+    return facts;
+}
+
+// Names of what lies in the folder of the test.
+std::size_t Entries_In_Folder() {
+    const std::filesystem::directory_iterator folder(Test_Folder());
+    return static_cast<std::size_t>(std::distance(begin(folder), end(folder)));
+}
+
+}  // namespace
+
+TEST(Path, separates_folders_by_a_slash) {
+    EXPECT_EQ(Path_Separator, '/');
+}
+
+TEST(File, is_read_byte_for_byte) {
+    const std::string bytes("a\0b\r\n\xFF\x1A c\n", 10);
+    Write(Path("x"), bytes);
+    EXPECT_EQ(File_Read_Whole(Path("x")), bytes);
+}
+
+TEST(File, that_is_empty_is_read_as_an_empty_text) {
+    Write(Path("x"), "");
+    EXPECT_EQ(File_Read_Whole(Path("x")), "");
+}
+
+TEST(File, that_is_missing_or_is_a_folder_or_has_no_name_is_not_read) {
+    std::filesystem::create_directory(Path("folder"));
+    EXPECT_EQ(File_Read_Whole(Path("missing")), std::nullopt);
+    EXPECT_EQ(File_Read_Whole(Path("folder")), std::nullopt);
+    EXPECT_EQ(File_Read_Whole(Path("missing/x")), std::nullopt);
+    EXPECT_EQ(File_Read_Whole(""), std::nullopt);
+}
+
+TEST(File, comes_into_being_when_it_is_replaced) {
+    EXPECT_TRUE(File_Replace(Path("x"), "new"));
+    EXPECT_EQ(Read(Path("x")), "new");
+    EXPECT_EQ(Facts(Path("x")).st_mode & 07777U, 0644U);
+    EXPECT_EQ(Entries_In_Folder(), 1U);
+}
+
+TEST(File, is_replaced_as_a_whole_and_never_written_in_place) {
+    Write(Path("x"), "the old contents");
+    const auto old = Facts(Path("x")).st_ino;
+    std::ifstream reader(Path("x"), std::ios::binary);
+    EXPECT_TRUE(File_Replace(Path("x"), "new"));
+    EXPECT_NE(Facts(Path("x")).st_ino, old);
+    EXPECT_EQ(Read(Path("x")), "new");
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(reader), {}), "the old contents")
+        << "whoever had the old file open still reads it whole";
+}
+
+TEST(File, leaves_nothing_beside_it_when_it_is_replaced) {
+    for (int time = 0; time < 20; ++time) EXPECT_TRUE(File_Replace(Path("x"), std::to_string(time)));
+    EXPECT_EQ(Entries_In_Folder(), 1U);
+}
+
+TEST(File, keeps_its_permissions_when_it_is_replaced) {
+    Write(Path("x"), "old");
+    ::chmod(Path("x").c_str(), 0600);
+    EXPECT_TRUE(File_Replace(Path("x"), "new"));
+    EXPECT_EQ(Facts(Path("x")).st_mode & 07777U, 0600U);
+}
+
+TEST(File, may_be_replaced_by_an_empty_one_and_by_one_of_a_megabyte) {
+    const std::string large(1 << 20, 'x');
+    EXPECT_TRUE(File_Replace(Path("x"), large));
+    EXPECT_EQ(Read(Path("x")), large);
+    EXPECT_TRUE(File_Replace(Path("x"), ""));
+    EXPECT_EQ(Read(Path("x")), "");
+}
+
+TEST(File, behind_a_link_is_replaced_and_the_link_stays) {
+    std::filesystem::create_directory(Path("elsewhere"));
+    Write(Path("elsewhere/real"), "old");
+    std::filesystem::create_symlink("elsewhere/real", Path("link"));
+    EXPECT_TRUE(File_Replace(Path("link"), "new"));
+    EXPECT_TRUE(std::filesystem::is_symlink(Path("link")));
+    EXPECT_FALSE(std::filesystem::is_symlink(Path("elsewhere/real")));
+    EXPECT_EQ(Read(Path("elsewhere/real")), "new");
+    EXPECT_EQ(Entries_In_Folder(), 2U);
+}
+
+TEST(File, in_a_folder_that_is_not_there_cannot_be_replaced) {
+    EXPECT_FALSE(File_Replace(Path("missing/x"), "new"));
+    EXPECT_EQ(Entries_In_Folder(), 0U);
+}
+
+TEST(File, in_a_file_that_stands_where_its_folder_should_be_cannot_be_replaced) {
+    Write(Path("folder"), "a file");
+    EXPECT_FALSE(File_Replace(Path("folder/x"), "new"));
+    EXPECT_EQ(Read(Path("folder")), "a file");
+    EXPECT_EQ(Entries_In_Folder(), 1U);
+}
+
+TEST(File, does_not_take_the_place_of_a_folder_and_leaves_nothing_beside_it) {
+    std::filesystem::create_directory(Path("x"));
+    EXPECT_FALSE(File_Replace(Path("x"), "new"));
+    EXPECT_TRUE(std::filesystem::is_directory(Path("x")));
+    EXPECT_EQ(Entries_In_Folder(), 1U);
+}
+
+TEST(File, is_as_it_was_when_the_new_one_does_not_fit_on_the_disk) {
+    Write(Path("x"), "the old contents");
+    ::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit = {};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limit), 0);
+    const rlimit narrow = {100, limit.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &narrow), 0);
+    const bool replaced = File_Replace(Path("x"), std::string(1000, 'x'));
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
+    EXPECT_FALSE(replaced);
+    EXPECT_EQ(Read(Path("x")), "the old contents");
+    EXPECT_EQ(Entries_In_Folder(), 1U);
+}
