@@ -186,7 +186,8 @@ void Print_Slider(Printing& printing, const Editor_Row& row) {
     Print_Caption(printing, row, Middle_X(row));
     Print_Rail(printing, row);
     for (int unit = 0; unit <= Units; ++unit) {
-        const double y = row.bottom_row + Thumb_Half - unit * Slider_Travel / Units;
+        const int rise = unit * Slider_Travel / Units;  // 8 pixels a unit
+        const double y = row.bottom_row + Thumb_Half - rise;
         const bool numbered = unit % 5 == 0;
         const double length = numbered ? Long_Mark : Short_Mark;
         const double width = numbered ? 2 : 1;
@@ -272,7 +273,8 @@ void Print_Group(Printing& printing, const Group_Row& group) {
 }  // namespace
 
 double Slider_Middle(const Editor_Row& row, int value) {
-    return row.bottom_row - value * Slider_Travel / 127 + Thumb_Half;
+    const int rise = value * Slider_Travel / 127;  // cut, as the thumb is placed
+    return row.bottom_row - rise + Thumb_Half;
 }
 
 double Switch_Middle(const Editor_Row& row, int position) {

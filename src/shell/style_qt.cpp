@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QPalette>
 #include <QProxyStyle>
+#include <memory>
 
 namespace {
 
@@ -22,7 +23,7 @@ class Plain_Buttons : public QProxyStyle {
 }  // namespace
 
 void Style_Install() {
-    QApplication::setStyle(new Plain_Buttons);
+    QApplication::setStyle(std::make_unique<Plain_Buttons>().release());  // the application owns it
     const QColor text(0xec, 0xea, 0xe2);
     const QColor faint(0x80, 0x84, 0x88);
     const QColor accent(0x2b, 0x8f, 0x84);
