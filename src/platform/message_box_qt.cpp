@@ -1,5 +1,6 @@
 #include "platform/message_box.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QIcon>
 #include <QMessageBox>
@@ -77,6 +78,8 @@ Answer Message_Box(const std::string& text, Buttons_Set buttons, Icon icon, cons
     QMessageBox box(QMessageBox::NoIcon, QString::fromStdString(title), Lines(text),
                     Toolkit_Buttons(buttons), before);
     Show_Icon(box, icon);
+    // Captions say enough.
+    for (QAbstractButton* button : box.buttons()) button->setIcon({});
     box.setTextFormat(Qt::PlainText);  // names of devices and files are no markup
     box.setObjectName("Message_Box");
     const Answer answer = Answer_Of(box.exec(), buttons);

@@ -3,27 +3,10 @@
 #include <QApplication>
 #include <QFont>
 #include <QPalette>
-#include <QProxyStyle>
-#include <memory>
-
-namespace {
-
-class Plain_Buttons : public QProxyStyle {
-  public:
-    Plain_Buttons() : QProxyStyle("Fusion") {}
-
-    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                  QStyleHintReturn* result) const override {
-        // Captions say enough.
-        if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
-        return QProxyStyle::styleHint(hint, option, widget, result);
-    }
-};
-
-}  // namespace
+#include <QStyleFactory>
 
 void Style_Install() {
-    QApplication::setStyle(std::make_unique<Plain_Buttons>().release());  // the application owns it
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
     const QColor text(0xec, 0xea, 0xe2);
     const QColor faint(0x80, 0x84, 0x88);
     const QColor accent(0x2b, 0x8f, 0x84);
