@@ -107,14 +107,21 @@ void App_Window::Show_Panels() {
 }
 
 void App_Window::Show_Changes() {
-    // Moving focus and showing windows are events themselves and come back here.
-    if (showing_) return;
+    // Moving the focus and showing windows are events themselves: what they change is shown by one more
+    // round.
+    if (showing_) {
+        changed_meanwhile_ = true;
+        return;
+    }
     showing_ = true;
-    setWindowTitle(QString::fromStdString(Main_Window.caption));
-    if (cursor().shape() != Shape_Of(Main_Window.pointer)) setCursor(Shape_Of(Main_Window.pointer));
-    Show_Menus();
-    Show_Panels();
-    Show_Frame();
+    do {
+        changed_meanwhile_ = false;
+        setWindowTitle(QString::fromStdString(Main_Window.caption));
+        if (cursor().shape() != Shape_Of(Main_Window.pointer)) setCursor(Shape_Of(Main_Window.pointer));
+        Show_Menus();
+        Show_Panels();
+        Show_Frame();
+    } while (changed_meanwhile_);
     showing_ = false;
 }
 

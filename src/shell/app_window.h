@@ -32,4 +32,5 @@ class App_Window : public QMainWindow {
     Setup_Window* setup_ = nullptr;
     std::vector<QAction*> entries_;  // one for each row of Menu_Tree
     bool showing_ = false;
+    bool changed_meanwhile_ = false;
 };

@@ -142,6 +142,8 @@ void Main_Unload() {
 
 bool Main_Close() {
     if (!Main_Query_Unload()) return false;
+    // A dialog that still stands open goes with the frame, and keeps its own settings as at any close.
+    Window_Unload(MIDI_Setup);
     Main_Unload();
     Main_Window.visible = false;
     return true;

@@ -291,3 +291,12 @@ TEST_F(Program_End, that_is_refused_writes_and_closes_nothing) {
     EXPECT_NE(MIDI_Out_Handle, -1);
     EXPECT_EQ(Display.fonts_removed, Lines{});
 }
+
+TEST_F(Program_End, closes_an_open_setup_dialog_and_keeps_what_it_would_have_kept) {
+    Window_Show(MIDI_Setup);
+    EXPECT_TRUE(Main_Close());
+    EXPECT_FALSE(MIDI_Setup.loaded);
+    EXPECT_EQ(App_Mode, "");
+    EXPECT_FALSE(Timer1.enabled);
+    EXPECT_NE(Read_Settings().find("Control Channel=[Not used]"), std::string::npos);
+}
