@@ -39,7 +39,8 @@ std::string Leading_Bytes(const std::string& text) {
 }  // namespace
 
 Jack_Server::Jack_Server() {
-    const auto path = std::filesystem::temp_directory_path() / (Server_Name + ".lock");
+    const auto path =
+        std::filesystem::temp_directory_path() / (Server_Name + "-" + std::to_string(getuid()) + ".lock");
     lock_ = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
     // Waits in the queue of the tests that want the server; the time limit of the test is the end of it.
     if (lock_ < 0 || flock(lock_, LOCK_EX) != 0) throw std::runtime_error("no lock for the JACK server");
