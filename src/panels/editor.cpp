@@ -3,25 +3,12 @@
 #include <algorithm>
 
 #include "desk/timers.h"
-#include "midi/in.h"
-#include "midi/out.h"
 #include "panels/editor_printing.h"
-#include "panels/keyboard.h"
-#include "panels/push_buttons.h"
-#include "panels/steps.h"
-#include "sequencer/sequence.h"
-#include "synth/messages.h"
 #include "synth/tone.h"
 #include "synth/tuning.h"
 #include "synth/views.h"
 
 namespace {
-
-constexpr int Dot_Centre_Left = 12;
-constexpr int Dot_Centre_Top = 10;
-constexpr double Degrees_A_Semitone = 12;
-constexpr double Degrees_A_Fine_Unit = 3;
-constexpr double Rows_A_Semitone = 4;  // of a drag
 
 constexpr int Upper_Switch_Row = 32;
 constexpr int Lower_Switch_Row = 278;
@@ -69,179 +56,8 @@ const std::array<Dot_Row, 3> Dots = {{
     {"DCO2_FTune", &DCO2_FTune_Knopf},
 }};
 
-Control* Dot_Of(const Control& body) {
-    for (const Dot_Row& row : Dots) {
-        if (std::string_view(row.knob) == body.name) return row.dot;
-    }
-    return nullptr;
-}
-
-// The row of the table that a control belongs to: its own, or that of the knob whose dot it is. Null for
-// the rest of the window.
-const Editor_Row* Row_Of(const Control& control) {
-    const Control& owner = control.parent != nullptr ? *control.parent : control;
-    for (std::size_t index = 0; index < Editor_Controls.size(); ++index) {
-        if (&Editor_Controls[index] == &owner) return &Editor_Table[index];
-    }
-    return nullptr;
-}
-
 std::size_t Parameter_Of(const Editor_Row& row) {
     return static_cast<std::size_t>(row.parameter);
-}
-
-// -- knobs -----------------------------------------------------------------------------------------------
-
-void Knob_Key(const Editor_Row& row, int key) {
-    const std::size_t parameter = Parameter_Of(row);
-    std::uint8_t byte = 0;
-    if (row.type == Control_Type::Tune_Knob) {
-        Panel_Scratch_Real = Tune_Step(Panel_Tune_From_Byte(Tone_Byte(parameter)), key);
-        byte = Panel_Tune_To_Byte(Panel_Scratch_Real);
-        Panel_Knob_Dot(Dot_Centre_Left, Dot_Centre_Top, Degrees_A_Semitone);
-    } else {
-        byte = Narrow<std::uint8_t>(Fine_Step(Tone_Byte(parameter), key));
-        Panel_Scratch_Real = Panel_Fine_From_Byte(byte);
-        Panel_Knob_Dot(Dot_Centre_Left, Dot_Centre_Top, Degrees_A_Fine_Unit);
-    }
-    // A knob has no notion of an unknown key: every key sends.
-    Editor_Set_Value(parameter, byte);
-}
-
-// How far the pointer has moved since the last drag event. Behind a change of focus that counts from row 0
-// and not from the press, so the first event jumps by the row at which the pointer stands.
-std::int16_t Knob_Movement(double row) {
-    const std::int16_t now = To_Int16(row);
-    const std::int16_t movement = To_Int16(now - Panel_Knob_Last_Y);
-    Panel_Knob_Last_Y = now;
-    return movement;
-}
-
-void Knob_Drag(const Editor_Row& row, double pointer_row) {
-    const std::size_t parameter = Parameter_Of(row);
-    if (row.type == Control_Type::Tune_Knob) {
-        const double semitones =
-            Panel_Tune_From_Byte(Tone_Byte(parameter)) + Knob_Movement(pointer_row / Rows_A_Semitone);
-        Panel_Scratch_Real = Clamped(semitones, -12, 12);
-        Panel_Knob_Dot(Dot_Centre_Left, Dot_Centre_Top, Degrees_A_Semitone);
-        Editor_Set_Value(parameter, Panel_Tune_To_Byte(Panel_Scratch_Real));
-    } else {
-        const double byte = Clamped(Tone_Byte(parameter) + Knob_Movement(pointer_row), 0, Highest_Value);
-        Editor_Set_Value(parameter, Narrow<std::uint8_t>(byte));
-        Panel_Scratch_Real = Panel_Fine_From_Byte(Tone_Byte(parameter));
-        Panel_Knob_Dot(Dot_Centre_Left, Dot_Centre_Top, Degrees_A_Fine_Unit);
-    }
-}
-
-// -- the two-position switch -----------------------------------------------------------------------------
-
-void Toggle(Control& control, const Editor_Row& row, bool turn) {
-    std::uint8_t& byte = Tone_Byte(Parameter_Of(row));
-    const auto other_side = Narrow<std::uint8_t>(Toggled(byte));
-    if (turn && other_side != byte) {
-        control.top += other_side > byte ? -Switch_Pitch : Switch_Pitch;
-        byte = other_side;
-    }
-    Editor_Send_Param(Parameter_Of(row));
-    Tone_Saved = Flag_16::False;
-}
-
-// -- events ----------------------------------------------------------------------------------------------
-
-void Focus_Gained(Control& control) {
-    Editor.active_control = &control;
-    const Editor_Row* row = Row_Of(control);
-    if (row == nullptr) return;
-    Control* dot = Is_Knob(row->type) && control.parent == nullptr ? Dot_Of(control) : nullptr;
-    Panel_Current_Control = dot != nullptr ? dot : &control;
-}
-
-void Focus_Lost(Control&) {
-    Panel_Restore_Picture();
-}
-
-void Open_Name_Dialog() {
-    if (App_Mode.empty()) TName_Show();
-}
-
-void Key_Pressed(Control& control, int key) {
-    if (&control == &Editor_Tone_Name) {
-        Open_Name_Dialog();
-        return;
-    }
-    const Editor_Row* row = Row_Of(control);
-    if (row == nullptr) return;
-    switch (row->type) {
-        case Control_Type::Slider:
-            Editor_Slider_Key(row->top_row, row->bottom_row, Parameter_Of(*row), key);
-            break;
-        case Control_Type::Four_Way:
-        case Control_Type::Three_Way:
-            Editor_Switch_Key(row->top_row, row->bottom_row, Parameter_Of(*row), key);
-            break;
-        case Control_Type::Two_Way:
-            Toggle(control, *row, Toggles(key));
-            break;
-        case Control_Type::Tune_Knob:
-        case Control_Type::Fine_Knob:
-            Knob_Key(*row, key);
-            break;
-    }
-}
-
-// A push button or the keyboard button; false for other controls.
-bool Other_Button_Pressed(Control& control, Mouse_Button button) {
-    if (&control == &Editor_Seq_Start) {
-        Button_Push(control);
-    } else if (&control == &Editor_Seq_Stop) {
-        Editor_Keys_Pic.picture = Picture_Of(Picture_Store::Buttons, Keys_Up);
-        Button_Push(control);
-    } else if (&control == &Editor_Keys_Pic) {
-        Keys_Pic_MouseDown(control, button);
-    } else {
-        return false;
-    }
-    return true;
-}
-
-void Button_Pressed(Control& control, Mouse_Button button) {
-    if (Other_Button_Pressed(control, button)) return;
-    const Editor_Row* row = Row_Of(control);
-    if (row == nullptr) return;
-    if (row->type == Control_Type::Slider || Is_Knob(row->type)) {
-        Editor_Set_Value(Parameter_Of(*row), Tone_Byte(Parameter_Of(*row)));
-    } else if (row->type == Control_Type::Two_Way) {
-        Toggle(control, *row, true);
-    }
-}
-
-void Pointer_Moved(Control& control, double pointer_row) {
-    const Editor_Row* row = Row_Of(control);
-    if (row == nullptr) return;
-    if (row->type == Control_Type::Slider) {
-        Editor_Slider_Drag(row->top_row, row->bottom_row, Parameter_Of(*row), pointer_row);
-    } else if (Is_Knob(row->type)) {
-        Knob_Drag(*row, pointer_row);
-    } else if (row->type != Control_Type::Two_Way) {
-        Editor_Switch_Drag(row->top_row, row->bottom_row, Parameter_Of(*row), pointer_row);
-    }
-}
-
-void Button_Released(Control& control, Mouse_Button button) {
-    if (&control == &Editor_Seq_Start) {
-        // A running sequence holds the button down.
-        if (!Seq_Ready()) Button_Release(control);
-    } else if (&control == &Editor_Seq_Stop) {
-        ED_Seq_Stop_MouseUp();
-    } else if (&control == &Editor_Keys_Pic) {
-        Keys_Pic_MouseUp(control, button);
-    }
-}
-
-void Clicked(Control& control) {
-    if (&control == &Editor_Tone_Name) Open_Name_Dialog();
-    if (&control == &Editor_Seq_Start) ED_Seq_Start_Click();
-    if (&control == &Editor_Seq_Stop) ED_Seq_Stop_Click();
 }
 
 // -- refresh ---------------------------------------------------------------------------------------------
@@ -342,7 +158,7 @@ Control Plain(const char* name, const char* spoken_name, bool focusable) {
 }
 
 std::string Spoken_Value(const Control& control) {
-    const Editor_Row* row = Row_Of(control);
+    const Editor_Row* row = Editor_Row_Of(control);
     if (row == nullptr) return control.text;
     std::string text;
     const std::uint8_t value = Tone_Byte(Parameter_Of(*row));
@@ -355,7 +171,7 @@ std::vector<Control*> Controls_In_Focus_Order() {
     std::vector<Control*> controls = {&Editor_Pic_Tonebench, &Editor_Pic_Sign};
     for (Control& control : Editor_Controls) {
         controls.push_back(&control);
-        if (Control* dot = Dot_Of(control)) controls.push_back(dot);
+        if (Control* dot = Editor_Dot_Of(control)) controls.push_back(dot);
     }
     for (Control* control : {&Editor_Seq_Start, &Editor_Seq_Start_Pic, &Editor_Seq_Stop,
                              &Editor_Seq_Stop_Pic, &Editor_Keys_Pic, &Editor_Tone_Name}) {
@@ -365,9 +181,6 @@ std::vector<Control*> Controls_In_Focus_Order() {
 }
 
 }  // namespace
-
-Hook<void()> TName_Show;
-Hook<void()> Seq_Start_Raise;
 
 std::array<Control, Editor_Table.size()> Editor_Controls = Controls_Of_Table();
 Control DCO1_Tune_Knopf = Dot("DCO1_Tune_Knopf", "kn1", "DCO-1 Tune", 0);
@@ -385,17 +198,26 @@ Control Editor_Pic_Sign = Plain("Pic_Sign", "", false);
 const Panel Editor_Panel = {
     .window = &Editor,
     .controls = Controls_In_Focus_Order(),
-    .events = {.focus_gained = Focus_Gained,
-               .focus_lost = Focus_Lost,
-               .key_pressed = Key_Pressed,
-               .button_pressed = Button_Pressed,
-               .pointer_moved = Pointer_Moved,
-               .button_released = Button_Released,
-               .clicked = Clicked,
-               .activated = Editor_Activated,
-               .deactivated = Editor_Deactivated},
+    .events = Editor_Events,
     .spoken_value = Spoken_Value,
 };
+
+Control* Editor_Dot_Of(const Control& body) {
+    for (const Dot_Row& row : Dots) {
+        if (std::string_view(row.knob) == body.name) return row.dot;
+    }
+    return nullptr;
+}
+
+// The row of the table that a control belongs to: its own, or that of the knob whose dot it is. Null for
+// the rest of the window.
+const Editor_Row* Editor_Row_Of(const Control& control) {
+    const Control& owner = control.parent != nullptr ? *control.parent : control;
+    for (std::size_t index = 0; index < Editor_Controls.size(); ++index) {
+        if (&Editor_Controls[index] == &owner) return &Editor_Table[index];
+    }
+    return nullptr;
+}
 
 Control& Editor_Control(const std::string& name) {
     for (Control& control : Editor_Controls) {
@@ -451,35 +273,6 @@ void Editor_Activated() {
 
 void Editor_Deactivated() {
     Panel_Restore_Picture();
-}
-
-void ED_Seq_Start_Click() {
-    if (!Seq_Ready()) return;
-    MIDI_Out_Open();
-    Seq_Pos = 0;
-    Seq_Status = Note_On_Status(MIDI_Channel);
-    Timer_Start(Seq_Tmr);
-    Seq_Running = Flag_8::True;
-}
-
-void ED_Seq_Stop_Click() {
-    if (MIDI_Receiving != 0) {
-        MIDI_Receive_Toggle();
-        return;
-    }
-    Timer_Stop(Seq_Tmr);
-    Seq_Clock_Dark();
-    Seq_Pos = 0;
-    Editor_Keys_Pic.picture = Picture_Of(Picture_Store::Buttons, Keys_Up);
-    MIDI_All_Notes_Off();
-    MIDI_Out_Close();
-    Seq_Running = Flag_8::False;
-}
-
-void ED_Seq_Stop_MouseUp() {
-    Button_Release(Editor_Seq_Stop);
-    Button_Release(Editor_Seq_Start);
-    if (Is_True(Seq_Window_Open)) Seq_Start_Raise();
 }
 
 void Editor_Install() {

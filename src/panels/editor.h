@@ -32,6 +32,16 @@ extern Control Editor_Pic_Sign;
 // The window as its toolkit side sees it: every control in the order of the focus, and the handlers.
 extern const Panel Editor_Panel;
 
+// The row of the table that a control belongs to: its own, or that of the knob whose dot it is. Null for
+// the rest of the window.
+const Editor_Row* Editor_Row_Of(const Control& control);
+
+// The dot on a knob's body; null for any other control.
+Control* Editor_Dot_Of(const Control& body);
+
+// Where the window's events go.
+extern const Panel_Events Editor_Events;
+
 // A control of the table by its name; any other name is a programming mistake (Fatal_Error).
 Control& Editor_Control(const std::string& name);
 

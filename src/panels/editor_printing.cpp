@@ -245,7 +245,7 @@ void Print_Knob(Printing& printing, const Editor_Row& row) {
     const bool fine = row.type == Control_Type::Fine_Knob;
     const int end = fine ? 50 : 12;
     const int step = fine ? 10 : 1;
-    const double degrees = fine ? 3 : 12;
+    const double degrees = fine ? Degrees_A_Fine_Unit : Degrees_A_Semitone;
     for (int unit = -end; unit <= end; unit += step) {
         const bool numbered = unit == 0 || unit == -end || unit == end;
         printing.lines.push_back(

@@ -24,6 +24,10 @@ struct Editor_Row {
 inline constexpr int Switch_Pitch = 10;   // pixels from one position of a switch to the next
 inline constexpr int Slider_Travel = 80;  // pixels from value 0 to value 127
 inline constexpr int Thumb_Size = 16;
+inline constexpr int Dot_Centre_Left = 12;  // of a knob's dot, on the body
+inline constexpr int Dot_Centre_Top = 10;
+inline constexpr double Degrees_A_Semitone = 12;
+inline constexpr double Degrees_A_Fine_Unit = 3;
 inline constexpr int Editor_Width = 528;
 inline constexpr int Editor_Height = 456;
 
