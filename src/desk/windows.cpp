@@ -8,6 +8,7 @@ Window Editor_Juno = {.name = "Editor_Juno"};
 Window Patch = {.name = "Patch"};
 Window Sequencer = {.name = "Sequencer"};
 Window MIDI_Setup = {.name = "MIDI_Setup"};
+Window TName = {.name = "TName"};
 
 Flag_8 Patch_Window_Open = Flag_8::False;
 Flag_8 Seq_Window_Open = Flag_8::False;
@@ -38,4 +39,9 @@ void Window_Unload(Window& window) {
     window.unload();
     window.visible = false;
     window.loaded = false;
+}
+
+void Window_Centre_Over_Main(Window& window) {
+    window.left = Main_Window.left + (Main_Window.width - window.width) / 2;
+    window.top = Main_Window.top + (Main_Window.height - window.height) / 2;
 }

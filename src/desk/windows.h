@@ -38,6 +38,7 @@ extern Window Editor_Juno;
 extern Window Patch;
 extern Window Sequencer;
 extern Window MIDI_Setup;
+extern Window TName;
 
 // Whether the windows that may come and go stand open; written by their load and unload.
 extern Flag_8 Patch_Window_Open;
@@ -57,3 +58,7 @@ void Window_Hide(Window& window);
 
 // Runs the unload procedure and takes the window from the screen; nothing when it is not loaded.
 void Window_Unload(Window& window);
+
+// The common place of dialog-like windows: half the difference of the two sizes, measured from the main
+// window's place.
+void Window_Centre_Over_Main(Window& window);

@@ -4,24 +4,86 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <system_error>
 
+#include "platform/text.h"
+
 namespace {
 
-bool Write_All(int descriptor, const std::string& contents) {
-    std::size_t written = 0;
-    while (written < contents.size()) {
-        const ssize_t count = ::write(descriptor, contents.data() + written, contents.size() - written);
+bool Write_All(int descriptor, std::string_view contents) {
+    while (!contents.empty()) {
+        const ssize_t count = ::write(descriptor, contents.data(), contents.size());
+        if (count < 0 && errno == EINTR) continue;
         if (count < 0) return false;
-        written += static_cast<std::size_t>(count);
+        contents.remove_prefix(static_cast<std::size_t>(count));
     }
-    return ::fsync(descriptor) == 0;
+    return true;
+}
+
+bool Is_There(const std::string& path) {
+    struct stat facts = {};
+    // A link counts whether or not it leads anywhere.
+    return ::lstat(path.empty() ? "." : path.c_str(), &facts) == 0;
+}
+
+// The entry of the folder that differs from `name` in case only; empty when there is none.
+std::string Entry_In_Other_Case(const std::string& folder, const std::string& name) {
+    std::string found;
+    std::error_code error;
+    std::filesystem::directory_iterator entries(folder.empty() ? "." : folder, error);
+    while (!error && entries != std::filesystem::directory_iterator()) {
+        const std::string entry = entries->path().filename().string();
+        if (Same_Text(entry, name) && (found.empty() || entry < found)) found = entry;
+        entries.increment(error);
+    }
+    return found;
+}
+
+// Opens a plain file; -1 with errno set when there is none. Without O_NONBLOCK a pipe would wait here for
+// somebody at its other end.
+int Open_For_Reading(const std::string& path) {
+    const int descriptor = ::open(Path_Found(path).c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0) return -1;
+    struct stat facts = {};
+    if (::fstat(descriptor, &facts) == 0 && S_ISREG(facts.st_mode)) return descriptor;
+    const int reason = S_ISDIR(facts.st_mode) ? EISDIR : EINVAL;
+    ::close(descriptor);
+    errno = reason;
+    return -1;
 }
 
 }  // namespace
+
+int File_Last_Error = 0;
+
+std::string Path_Found(const std::string& path) {
+    std::string found;
+    for (std::size_t begin = 0; begin < path.size();) {
+        const std::size_t separator = path.find(Path_Separator, begin);
+        const std::size_t end = separator == std::string::npos ? path.size() : separator;
+        std::string name = path.substr(begin, end - begin);
+        if (!name.empty() && !Is_There(found + name)) {
+            name = Entry_In_Other_Case(found, name);
+            if (name.empty()) return found + path.substr(begin);
+        }
+        found += name;
+        if (end < path.size()) found += Path_Separator;
+        begin = end + 1;
+    }
+    return found;
+}
+
+bool File_Exists(std::string path) {
+    if (path.ends_with(Path_Separator)) path.pop_back();
+    const int descriptor = Open_For_Reading(path);
+    File_Last_Error = descriptor < 0 ? errno : 0;
+    if (descriptor >= 0) ::close(descriptor);
+    return descriptor >= 0;
+}
 
 std::optional<std::string> File_Read_Whole(const std::string& path) {
     std::error_code error;
@@ -44,9 +106,40 @@ bool File_Replace(const std::string& path, const std::string& contents) {
 
     struct stat old = {};
     const mode_t mode = ::stat(target.c_str(), &old) == 0 ? (old.st_mode & 07777U) : 0644U;
-    bool done = ::fchmod(descriptor, mode) == 0 && Write_All(descriptor, contents);
+    bool done =
+        ::fchmod(descriptor, mode) == 0 && Write_All(descriptor, contents) && ::fsync(descriptor) == 0;
     done = ::close(descriptor) == 0 && done;
     done = done && ::rename(beside.c_str(), target.c_str()) == 0;
     if (!done) ::unlink(beside.c_str());
     return done;
+}
+
+int File_Overwrite(const std::string& path, std::string_view contents) {
+    constexpr mode_t For_Everybody = 0666;  // less what the user's mask takes away
+    const int descriptor =
+        ::open(Path_Found(path).c_str(), O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC, For_Everybody);
+    if (descriptor < 0) return errno;
+    const int written = Write_All(descriptor, contents) ? 0 : errno;
+    // Some file systems tell of a full disk only now.
+    const int closed = ::close(descriptor) == 0 ? 0 : errno;
+    return written != 0 ? written : closed;
+}
+
+File_Reader::File_Reader(const std::string& path) : descriptor_(Open_For_Reading(path)) {}
+
+File_Reader::~File_Reader() {
+    if (descriptor_ >= 0) ::close(descriptor_);
+}
+
+bool File_Reader::Fill(std::uint64_t position) {
+    first_ = position;
+    count_ = 0;
+    if (descriptor_ < 0 || position == 0) return false;
+    ssize_t read = 0;
+    do {
+        read = ::pread(descriptor_, buffer_.data(), buffer_.size(), static_cast<off_t>(position - 1));
+    } while (read < 0 && errno == EINTR);
+    if (read <= 0) return false;
+    count_ = static_cast<std::size_t>(read);
+    return true;
 }

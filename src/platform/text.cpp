@@ -33,6 +33,14 @@ bool Same_Text(std::string_view left, std::string_view right) {
                       [](char a, char b) { return Lower(a) == Lower(b); });
 }
 
+std::string Upper_Text(std::string_view text) {
+    std::string capitals(text);
+    for (char& letter : capitals) {
+        if (letter >= 'a' && letter <= 'z') letter = static_cast<char>(letter - 'a' + 'A');
+    }
+    return capitals;
+}
+
 std::string_view Cut_At_Zero(std::string_view text) {
     return text.substr(0, text.find('\0'));
 }

@@ -11,6 +11,9 @@ std::string_view Right_Trimmed(std::string_view text);
 // Equal without regard to the case of the letters A to Z.
 bool Same_Text(std::string_view left, std::string_view right);
 
+// The letters a to z as capitals; all other bytes stay, so UTF-8 stays whole.
+std::string Upper_Text(std::string_view text);
+
 // The part before the first zero character.
 std::string_view Cut_At_Zero(std::string_view text);
 

@@ -55,12 +55,6 @@ bool Has_Inputs() {
     return !Is_True(MIDI_In_Missing);
 }
 
-// Half the difference of the two sizes, measured from the main window's place.
-void Centre_Over_Main_Window() {
-    MIDI_Setup.left = Main_Window.left + (Main_Window.width - MIDI_Setup.width) / 2;
-    MIDI_Setup.top = Main_Window.top + (Main_Window.height - MIDI_Setup.height) / 2;
-}
-
 void Enable_Form(bool enabled) {
     Setup_Form& form = MIDI_Setup_Form;
     form.input_devices.enabled = enabled && Has_Inputs();
@@ -101,7 +95,7 @@ void Load() {
     MIDI_Setup.caption = Setup_Title;
     MIDI_Setup.width = 400;
     MIDI_Setup.height = 300;
-    Centre_Over_Main_Window();
+    Window_Centre_Over_Main(MIDI_Setup);
     Dialog_Begin(MIDI_Setup, "MIDI_Setup");
     MIDI_Out_Close_Fully();
     Fill_Form();

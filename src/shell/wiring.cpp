@@ -6,11 +6,13 @@
 #include "setup/setup.h"
 #include "shell/commands.h"
 #include "shell/frame.h"
+#include "shell/tone_commands.h"
 
 void Program_Wire() {
     Controls_Install();
     Editor_Install();
     Setup_Install();
     Commands_Install();
+    Tone_Commands_Install();
     Timer_Display.tick = Main_Display_Tick;
 }

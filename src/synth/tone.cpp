@@ -66,12 +66,15 @@ void Tone_Init() {
     if (Is_True(Patch_Window_Open)) Panel_Apply_Patch();
 }
 
-std::string Tone_Name_From_Data() {
-    const std::string name(Tone_Data.begin(), Tone_Data.begin() + Tone_Name_Size);
+std::string Tone_Name_Of(const std::string& text) {
     // Blanks only: a tab is a character of the name.
-    const std::size_t first = name.find_first_not_of(' ');
+    const std::size_t first = text.find_first_not_of(' ');
     if (first == std::string::npos) return {};
-    return ANSI_Upper(name.substr(first, name.find_last_not_of(' ') - first + 1));
+    return ANSI_Upper(text.substr(first, text.find_last_not_of(' ') - first + 1));
+}
+
+std::string Tone_Name_From_Data() {
+    return Tone_Name_Of(std::string(Tone_Data.begin(), Tone_Data.begin() + Tone_Name_Size));
 }
 
 std::string ANSI_Upper(const std::string& text) {

@@ -40,7 +40,10 @@ std::uint8_t& Tone_Byte(std::size_t parameter);
 // A New tone of the chosen instrument, in memory and on the panels; sends nothing. No file belongs to it.
 void Tone_Init();
 
-// The ten name bytes as text: trimmed, in capitals.
+// A name as it is shown: without blanks at its ends, in capitals.
+std::string Tone_Name_Of(const std::string& text);
+
+// The ten name bytes as such a name.
 std::string Tone_Name_From_Data();
 
 // Capital letters of the ANSI (Windows-1252) character set.

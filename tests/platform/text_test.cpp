@@ -106,3 +106,9 @@ TEST(Number_At_The_Start, is_0_where_it_is_too_large_or_too_small_to_hold) {
     EXPECT_EQ(Number_At_Start("1e-999"), 0);
     EXPECT_EQ(Number_At_Start(std::string(400, '9')), 0);
 }
+
+TEST(Text_In_Capitals, changes_the_letters_a_to_z_only) {
+    EXPECT_EQ(Upper_Text("/home/Me/az-{`09.syx"), "/HOME/ME/AZ-{`09.SYX");
+    EXPECT_EQ(Upper_Text("b\xC3\xA4ss"), "B\xC3\xA4SS") << "UTF-8 stays whole";
+    EXPECT_EQ(Upper_Text(""), "");
+}

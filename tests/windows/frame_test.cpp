@@ -32,7 +32,7 @@ class Frame : public Screen {
 
 TEST_F(Frame, shows_the_menus_that_have_a_function) {
     Start();
-    EXPECT_EQ(Bar(), (QStringList{"&File", "&MIDI", "&Tone"}));
+    EXPECT_EQ(Bar(), (QStringList{"&File", "&Edit", "&MIDI", "&Tone"}));
     EXPECT_TRUE(Entry("Menu_File_Exit")->isVisible());
     EXPECT_TRUE(Entry("Menu_MIDI_Setup")->isVisible());
     EXPECT_TRUE(Entry("Menu_MIDI_CloseOutput")->isVisible());
@@ -45,9 +45,10 @@ TEST_F(Frame, shows_the_menus_that_have_a_function) {
 
 TEST_F(Frame, shows_an_entry_as_soon_as_it_has_a_function) {
     Start();
-    Menu(Menu_Tone_Random).chosen = [] {};
+    EXPECT_FALSE(Entry("Menu_MIDI_Osc")->isVisible());
+    Menu(Menu_MIDI_Osc).chosen = [] {};
     window_->Show_Changes();
-    EXPECT_TRUE(Entry("Menu_Tone_Random")->isVisible());
+    EXPECT_TRUE(Entry("Menu_MIDI_Osc")->isVisible());
 }
 
 TEST_F(Frame, sends_the_tone_by_its_shortcut) {
