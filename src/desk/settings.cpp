@@ -1,5 +1,8 @@
 #include "desk/settings.h"
 
+#include <filesystem>
+#include <system_error>
+
 #include "platform/files.h"
 #include "platform/profile_file.h"
 #include "platform/text.h"
@@ -7,6 +10,16 @@
 namespace {
 
 constexpr std::size_t Longest_Value = 63;
+
+// A file that nobody may write keeps its contents. It would be replaced without being written to, so that
+// its mark has to be looked at by hand.
+bool Is_Marked_Read_Only(const std::string& path) {
+    using std::filesystem::perms;
+    constexpr perms Writing = perms::owner_write | perms::group_write | perms::others_write;
+    std::error_code error;
+    const std::filesystem::file_status file = std::filesystem::status(path, error);
+    return std::filesystem::is_regular_file(file) && (file.permissions() & Writing) == perms::none;
+}
 
 }  // namespace
 
@@ -19,7 +32,7 @@ std::string Setting_Get(std::string_view section, std::string_view key, std::str
 }
 
 void Setting_Put(std::string_view section, std::string_view key, std::string_view value) {
-    if (INI_File.empty()) return;
+    if (INI_File.empty() || Is_Marked_Read_Only(INI_File)) return;
     const std::string text = File_Read_Whole(INI_File).value_or(std::string());
     // Nothing is told when this fails: settings are a comfort, never a reason to disturb the music.
     (void)File_Replace(INI_File, Profile_With_Value(text, section, key, Trimmed(value)));

@@ -11,6 +11,9 @@
 #include "platform/hook.h"
 #include "platform/numbers.h"
 
+// The settings file holds the state by these numbers.
+enum class Window_State { Normal = 0, Minimised = 1, Maximised = 2 };
+
 enum class Pointer { Default, Arrow, Hourglass };
 
 struct Control;  // panels/controls.h
@@ -26,11 +29,16 @@ struct Window {
     int top = 0;
     int width = 0;
     int height = 0;
+    Window_State state = Window_State::Normal;
     int times_raised = 0;               // each count brings the window to the front once
     Control* active_control = nullptr;  // the control of the window that has the focus
     Hook<void()> load = {};
     Hook<void()> unload = {};
 };
+
+// A minimised window stands nowhere on the screen. Its place is this one then, far outside; the next
+// start finds it in the settings and brings the window back.
+inline constexpr int Minimised_Place = -32000;
 
 extern Window Main_Window;
 extern Window Editor;

@@ -1,6 +1,7 @@
 #include "platform/text.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <system_error>
@@ -11,6 +12,10 @@ constexpr std::string_view Blanks = " \t";
 
 char Lower(char letter) {
     return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
+
+char Upper(char letter) {
+    return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
 }
 
 bool Inside_Character(char byte) {
@@ -35,10 +40,14 @@ bool Same_Text(std::string_view left, std::string_view right) {
 
 std::string Upper_Text(std::string_view text) {
     std::string capitals(text);
-    for (char& letter : capitals) {
-        if (letter >= 'a' && letter <= 'z') letter = static_cast<char>(letter - 'a' + 'A');
-    }
+    std::transform(capitals.begin(), capitals.end(), capitals.begin(), Upper);
     return capitals;
+}
+
+std::string Lower_Text(std::string_view text) {
+    std::string small(text);
+    std::transform(small.begin(), small.end(), small.begin(), Lower);
+    return small;
 }
 
 std::string_view Cut_At_Zero(std::string_view text) {
@@ -63,4 +72,24 @@ double Number_At_Start(std::string_view text) {
     double number = 0;
     const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
     return read.ec == std::errc() && std::isfinite(number) ? number : 0;
+}
+
+std::string Plain_Number(float number) {
+    constexpr int Digits = 7;
+    // The largest single has 39 digits before the point, the smallest 45 zeros behind it.
+    std::array<char, 64> text;
+    const auto Printed = [&text, number](std::chars_format format, int decimals) {
+        const auto end = std::to_chars(text.data(), text.data() + text.size(), number, format, decimals);
+        return std::string(text.data(), end.ptr);
+    };
+    if (number == 0 || !std::isfinite(number)) return "0";
+
+    // The exponent of the rounded number tells how many of the digits stand behind the point.
+    const std::string rounded = Printed(std::chars_format::scientific, Digits - 1);
+    const int exponent = std::stoi(rounded.substr(rounded.find('e') + 1));
+    std::string plain = Printed(std::chars_format::fixed, std::max(0, Digits - 1 - exponent));
+    if (plain.find('.') == std::string::npos) return plain;
+    plain.erase(plain.find_last_not_of('0') + 1);
+    if (plain.back() == '.') plain.pop_back();
+    return plain;
 }
