@@ -61,6 +61,9 @@ bool Event_Loop_Wait(int) {
 double Display_Logical_Density() {
     return 96;
 }
+int Display_Height() {
+    return 768;
+}
 bool Font_File_Add(const std::string&) {
     return true;
 }

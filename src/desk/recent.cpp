@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "desk/menus.h"
 #include "platform/files.h"
@@ -23,7 +24,7 @@ Recent_List Tones = {Menu_File_SYX_Trenn_1,
 Recent_List Sequences = {Menu_File_Seq_Trenn_1,
                          {Menu_File_Seq_1, Menu_File_Seq_2, Menu_File_Seq_3, Menu_File_Seq_4}};
 
-const std::string& Name_At(const Recent_List& list, int place) {
+std::string& Name_At(Recent_List& list, int place) {
     if (place < 1 || place > static_cast<int>(Places)) throw Fatal_Error("Subscript out of range");
     return list.names[static_cast<std::size_t>(place - 1)];
 }
@@ -71,6 +72,14 @@ const std::string& Recent_Tone(int place) {
 
 const std::string& Recent_Seq(int place) {
     return Name_At(Sequences, place);
+}
+
+void Recent_Tone_Put(int place, std::string name) {
+    Name_At(Tones, place) = std::move(name);
+}
+
+void Recent_Seq_Put(int place, std::string name) {
+    Name_At(Sequences, place) = std::move(name);
 }
 
 // By value, as a name may come out of the list itself.

@@ -12,6 +12,11 @@
 const std::string& Recent_Tone(int place);
 const std::string& Recent_Seq(int place);
 
+// What the settings have for a place, before Add has looked at it: the file may have gone, and the menu
+// does not show it yet.
+void Recent_Tone_Put(int place, std::string name);
+void Recent_Seq_Put(int place, std::string name);
+
 // Takes files that have gone out of the list and puts `name` in front; an empty name only cleans up. Names
 // that differ in case only are the same. A name that stands second or third moves to the front, one that
 // stands fourth comes in like a new one.

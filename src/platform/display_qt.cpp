@@ -18,6 +18,10 @@ double Display_Logical_Density() {
     return QGuiApplication::primaryScreen()->logicalDotsPerInchY();
 }
 
+int Display_Height() {
+    return QGuiApplication::primaryScreen()->geometry().height();
+}
+
 bool Font_File_Add(const std::string& path) {
     const int number = QFontDatabase::addApplicationFont(QString::fromStdString(path));
     if (number >= 0) Added_Fonts[path] = number;

@@ -48,9 +48,14 @@ Qt::CursorShape Shape_Of(Pointer pointer) {
     return pointer == Pointer::Hourglass ? Qt::WaitCursor : Qt::ArrowCursor;
 }
 
+Qt::WindowState Toolkit_State(Window_State state) {
+    if (state == Window_State::Minimised) return Qt::WindowMinimized;
+    return state == Window_State::Maximised ? Qt::WindowMaximized : Qt::WindowNoState;
+}
+
 }  // namespace
 
-App_Window::App_Window() : ground_(new Ground(this)) {
+App_Window::App_Window() : ground_(new Ground(this)), agreed_(Wanted_Place()) {
     setObjectName(Main_Window.name);
     setCentralWidget(ground_);
     resize(Main_Window.width, Main_Window.height);
@@ -120,9 +125,48 @@ void App_Window::Show_Changes() {
         if (cursor().shape() != Shape_Of(Main_Window.pointer)) setCursor(Shape_Of(Main_Window.pointer));
         Show_Menus();
         Show_Panels();
+        Show_Place();
         Show_Frame();
     } while (changed_meanwhile_);
     showing_ = false;
+}
+
+App_Window::Place App_Window::Wanted_Place() {
+    return {Main_Window.left, Main_Window.top, Main_Window.width, Main_Window.height, Main_Window.state};
+}
+
+// Brings the window to where the rules want it, and nothing else: a frame that the user has moved stays.
+void App_Window::Show_Place() {
+    const Place before = agreed_;
+    Place wanted = Wanted_Place();
+    const bool moved = wanted.left != before.left || wanted.top != before.top;
+    const bool sized = wanted.width != before.width || wanted.height != before.height;
+    if (!moved && !sized && wanted.state == before.state) return;
+
+    // A window that fills the screen or none of it has no place and size to give: it leaves that state.
+    if ((moved || sized) && before.state != Window_State::Normal) {
+        wanted.state = Window_State::Normal;
+        setWindowState(Qt::WindowNoState);
+    }
+    if (sized) resize(wanted.width, wanted.height);
+    if (moved) move(wanted.left, wanted.top);
+    if (windowState() != Toolkit_State(wanted.state)) setWindowState(Toolkit_State(wanted.state));
+    Take_Place();
+}
+
+// What the screen says, into the record.
+void App_Window::Take_Place() {
+    if (isMinimized()) {
+        Main_Window.state = Window_State::Minimised;
+        Main_Window.left = Main_Window.top = Minimised_Place;
+    } else {
+        Main_Window.state = isMaximized() ? Window_State::Maximised : Window_State::Normal;
+        Main_Window.left = x();
+        Main_Window.top = y();
+        Main_Window.width = width();
+        Main_Window.height = height();
+    }
+    agreed_ = Wanted_Place();
 }
 
 // The frame appears when the start-up has ended, above it a dialog that came with it; and goes with the
@@ -136,6 +180,8 @@ void App_Window::Show_Frame() {
     }
     QWidget* front = this;
     if (setup_ != nullptr && setup_->isVisible()) front = setup_;
+    // To activate a minimised window is to open it.
+    if (front == this && isMinimized()) return;
     front->raise();
     front->activateWindow();
 }
@@ -146,13 +192,16 @@ void App_Window::closeEvent(QCloseEvent* event) {
     event->setAccepted(ended);
 }
 
+void App_Window::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) Take_Place();
+}
+
 void App_Window::moveEvent(QMoveEvent*) {
-    Main_Window.left = x();
-    Main_Window.top = y();
+    Take_Place();
 }
 
 void App_Window::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
-    Main_Window.width = width();
-    Main_Window.height = height();
+    Take_Place();
 }

@@ -5,6 +5,8 @@
 #include <memory>
 #include <vector>
 
+#include "desk/windows.h"
+
 class Panel_Window;
 class Setup_Window;
 
@@ -17,6 +19,7 @@ class App_Window : public QMainWindow {
     void Show_Changes();
 
   protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -25,12 +28,23 @@ class App_Window : public QMainWindow {
     void Build_Menus();
     void Show_Menus();
     void Show_Panels();
+    void Show_Place();
+    void Take_Place();
     void Show_Frame();
+
+    // Place, size and state as record and screen last agreed on them. Where the record differs now, a rule
+    // has spoken; what the user does with the window goes into both.
+    struct Place {
+        int left, top, width, height;
+        Window_State state;
+    };
+    static Place Wanted_Place();
 
     QWidget* ground_;
     Panel_Window* editor_ = nullptr;
     Setup_Window* setup_ = nullptr;
     std::vector<QAction*> entries_;  // one for each row of Menu_Tree
+    Place agreed_;
     bool showing_ = false;
     bool changed_meanwhile_ = false;
 };

@@ -6,7 +6,9 @@
 #include "setup/setup.h"
 #include "shell/commands.h"
 #include "shell/frame.h"
+#include "shell/settings_file.h"
 #include "shell/tone_commands.h"
+#include "shell/window_commands.h"
 
 void Program_Wire() {
     Controls_Install();
@@ -14,5 +16,7 @@ void Program_Wire() {
     Setup_Install();
     Commands_Install();
     Tone_Commands_Install();
+    Window_Commands_Install();
+    Settings_Install();
     Timer_Display.tick = Main_Display_Tick;
 }

@@ -151,6 +151,20 @@ TEST_F(Settings_File, whose_place_a_folder_has_taken_is_left_alone_without_a_wor
     EXPECT_EQ(Entries_In_Folder(), 1U);
 }
 
+TEST_F(Settings_File, that_is_marked_read_only_is_left_alone_without_a_word) {
+    using std::filesystem::perms;
+    Write_Settings("[MIDI]\nChannel=5\n");
+    std::filesystem::permissions(INI_File, perms::owner_read);
+    Setting_Put("MIDI", "Channel", "6");
+    Setting_Put("MIDI", "Autosend", "0");
+    EXPECT_EQ(Read_Settings(), "[MIDI]\nChannel=5\n");
+    EXPECT_EQ(Channel(), "5");
+    EXPECT_TRUE(Boxes.empty());
+    std::filesystem::permissions(INI_File, perms::owner_read | perms::owner_write);
+    Setting_Put("MIDI", "Channel", "6");
+    EXPECT_EQ(Channel(), "6");
+}
+
 TEST_F(Settings_File, without_a_path_is_no_file) {
     INI_File.clear();
     Setting_Put("MIDI", "Channel", "5");

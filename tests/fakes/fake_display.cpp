@@ -8,6 +8,10 @@ double Display_Logical_Density() {
     return Display.density;
 }
 
+int Display_Height() {
+    return Display.height;
+}
+
 bool Font_File_Add(const std::string& path) {
     if (Display.font_can_be_added) Display.fonts_added.push_back(path);
     return Display.font_can_be_added;

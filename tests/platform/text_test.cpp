@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <limits>
 #include <string>
 
 TEST(Text, loses_blanks_and_tabs_at_its_ends_and_keeps_those_inside) {
@@ -111,4 +113,46 @@ TEST(Text_In_Capitals, changes_the_letters_a_to_z_only) {
     EXPECT_EQ(Upper_Text("/home/Me/az-{`09.syx"), "/HOME/ME/AZ-{`09.SYX");
     EXPECT_EQ(Upper_Text("b\xC3\xA4ss"), "B\xC3\xA4SS") << "UTF-8 stays whole";
     EXPECT_EQ(Upper_Text(""), "");
+}
+
+TEST(Text_In_Small_Letters, changes_the_letters_a_to_z_only) {
+    EXPECT_EQ(Lower_Text("/Home/TONES/Az@[`{"), "/home/tones/az@[`{");
+    EXPECT_EQ(Lower_Text("KL\xC3\x84NGE"), "kl\xC3\x84nge");
+    EXPECT_EQ(Lower_Text(""), "");
+}
+
+TEST(Plain_Number, has_seven_digits_a_point_and_no_exponent) {
+    for (const auto& [number, text] : {std::pair{541.0F, "541"},
+                                       {0.0F, "0"},
+                                       {-0.0F, "0"},
+                                       {160.0F / 15, "10.66667"},
+                                       {1.0F / 15, "0.06666667"},
+                                       {1.0F / 12, "0.08333334"},
+                                       {10.5F, "10.5"},
+                                       {-0.5F, "-0.5"},
+                                       {100.0F, "100"},
+                                       {32767.0F / 15, "2184.467"},
+                                       {-2184.533F, "-2184.533"},
+                                       {1e7F, "10000000"},
+                                       {1e-5F, "0.00001"},
+                                       {9.9999999F, "10"}}) {
+        EXPECT_EQ(Plain_Number(number), text);
+    }
+}
+
+TEST(Plain_Number, is_a_number_at_both_ends_of_the_range) {
+    EXPECT_EQ(Plain_Number(std::numeric_limits<float>::max()), "340282346638528859811704183484516925440");
+    EXPECT_EQ(Number_At_Start(Plain_Number(std::numeric_limits<float>::min())) > 0, true);
+    EXPECT_EQ(Plain_Number(std::numeric_limits<float>::infinity()), "0");
+    EXPECT_EQ(Plain_Number(std::numeric_limits<float>::quiet_NaN()), "0");
+}
+
+TEST(Plain_Number, of_every_place_in_twips_gives_the_place_again) {
+    for (const int twips_per_pixel : {12, 15}) {
+        for (int twips = -32768; twips <= 32767; ++twips) {
+            const std::string text =
+                Plain_Number(static_cast<float>(twips) / static_cast<float>(twips_per_pixel));
+            ASSERT_EQ(std::nearbyint(Number_At_Start(text) * twips_per_pixel), twips) << text;
+        }
+    }
 }
