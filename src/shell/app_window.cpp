@@ -48,6 +48,9 @@ Qt::CursorShape Shape_Of(Pointer pointer) {
     return pointer == Pointer::Hourglass ? Qt::WaitCursor : Qt::ArrowCursor;
 }
 
+// However small a stored size is, there is a window to take hold of.
+constexpr QSize Smallest_Frame(120, 40);
+
 Qt::WindowState Toolkit_State(Window_State state) {
     if (state == Window_State::Minimised) return Qt::WindowMinimized;
     return state == Window_State::Maximised ? Qt::WindowMaximized : Qt::WindowNoState;
@@ -58,6 +61,7 @@ Qt::WindowState Toolkit_State(Window_State state) {
 App_Window::App_Window() : ground_(new Ground(this)), agreed_(Wanted_Place()) {
     setObjectName(Main_Window.name);
     setCentralWidget(ground_);
+    setMinimumSize(Smallest_Frame);
     resize(Main_Window.width, Main_Window.height);
     move(Main_Window.left, Main_Window.top);
     Build_Menus();
@@ -141,7 +145,11 @@ void App_Window::Show_Place() {
     Place wanted = Wanted_Place();
     const bool moved = wanted.left != before.left || wanted.top != before.top;
     const bool sized = wanted.width != before.width || wanted.height != before.height;
-    if (!moved && !sized && wanted.state == before.state) return;
+    if (!moved && !sized && wanted.state == before.state) {
+        // The desktop may put its border round a window later, and tells nobody that it moved by that.
+        if (isVisible()) Take_Place();
+        return;
+    }
 
     // A window that fills the screen or none of it has no place and size to give: it leaves that state.
     if ((moved || sized) && before.state != Window_State::Normal) {
@@ -188,20 +196,21 @@ void App_Window::Show_Frame() {
 
 void App_Window::closeEvent(QCloseEvent* event) {
     bool ended = false;
+    Show_Place();
     Guarded_Event([&ended] { ended = Main_Close(); });
     event->setAccepted(ended);
 }
 
 void App_Window::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::WindowStateChange) Take_Place();
+    if (event->type() == QEvent::WindowStateChange && isVisible()) Take_Place();
 }
 
 void App_Window::moveEvent(QMoveEvent*) {
-    Take_Place();
+    if (isVisible()) Take_Place();
 }
 
 void App_Window::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
-    Take_Place();
+    if (isVisible()) Take_Place();
 }
