@@ -73,11 +73,11 @@ const std::string& Recent_Seq(int place) {
     return Name_At(Sequences, place);
 }
 
-// By value, as a name may come out of the list itself.
-void Recent_Tone_Add(std::string name) {
+// Add gets a copy, as a name may come out of the list itself.
+void Recent_Tone_Add(const std::string& name) {
     Add(Tones, std::string(Trimmed(name)));
 }
 
-void Recent_Seq_Add(std::string name) {
+void Recent_Seq_Add(const std::string& name) {
     Add(Sequences, std::string(Trimmed(name)));
 }
