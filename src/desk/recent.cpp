@@ -82,11 +82,11 @@ void Recent_Seq_Put(int place, std::string name) {
     Name_At(Sequences, place) = std::move(name);
 }
 
-// By value, as a name may come out of the list itself.
-void Recent_Tone_Add(std::string name) {
+// Add gets a copy, as a name may come out of the list itself.
+void Recent_Tone_Add(const std::string& name) {
     Add(Tones, std::string(Trimmed(name)));
 }
 
-void Recent_Seq_Add(std::string name) {
+void Recent_Seq_Add(const std::string& name) {
     Add(Sequences, std::string(Trimmed(name)));
 }

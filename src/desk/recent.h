@@ -20,5 +20,5 @@ void Recent_Seq_Put(int place, std::string name);
 // Takes files that have gone out of the list and puts `name` in front; an empty name only cleans up. Names
 // that differ in case only are the same. A name that stands second or third moves to the front, one that
 // stands fourth comes in like a new one.
-void Recent_Tone_Add(std::string name);
-void Recent_Seq_Add(std::string name);
+void Recent_Tone_Add(const std::string& name);
+void Recent_Seq_Add(const std::string& name);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <system_error>
+#include <utility>
 
 #include "desk/menus.h"
 #include "desk/recent.h"
@@ -132,12 +133,12 @@ class Scanner {
     bool tone_at_start_ = false;  // only then does a patch message belong to the tone
 };
 
-void Make_Current(const std::string& path) {
+void Make_Current(std::string path) {
     Main_Window.caption = "Tonebench - " + Upper_Text(path);
     Menu(Menu_File_SYX_Save).enabled = true;
     Recent_Tone_Add(path);
-    Tone_File_Name = path;
     Tone_File_Short = path.substr(path.rfind(Path_Separator) + 1);
+    Tone_File_Name = std::move(path);
     Tone_Loading = Flag_8::False;
     Tone_File_Loaded();
 }
@@ -178,9 +179,8 @@ void SYX_Save() {
     Menu(Menu_Edit_Undo).enabled = false;
 }
 
-void SYX_Load(const std::string& given_path, const std::string& mode) {
-    // A copy, as the name may stand in one of the places that a load writes.
-    const std::string path = given_path;
+// The path by value, as it may stand in one of the places that a load writes.
+void SYX_Load(std::string path, const std::string& mode) {
     const bool opening = mode == SYX_Mode_Open;
     SYX_Tone_Found = false;
     {
@@ -199,7 +199,7 @@ void SYX_Load(const std::string& given_path, const std::string& mode) {
     }
     if (!opening) return;
     if (SYX_Tone_Found) {
-        Make_Current(path);
+        Make_Current(std::move(path));
     } else {
         Message_Box("Wrong MIDI system exclusive data!", Buttons_Set::Ok, Icon::Stop);
     }

@@ -41,7 +41,7 @@ void SYX_Save();
 
 // Reads a file into the tone. With the mode "Open" it becomes the current file; with any other
 // ("Soundcheck") the tone is only read. Tone_Saved and the undo copies are not touched.
-void SYX_Load(const std::string& path, const std::string& mode);
+void SYX_Load(std::string path, const std::string& mode);
 
 // Filled in by the file window: asks for a name, saves, and returns when the window has closed. Whether the
 // tone was saved stands in Tone_Saved.

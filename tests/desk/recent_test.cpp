@@ -17,7 +17,7 @@ using Names = std::vector<std::string>;
 // One rule, two lists: every test runs on both.
 struct List_Case {
     const char* name;
-    void (*add)(std::string);
+    void (*add)(const std::string&);
     const std::string& (*at)(int);
     Menu_Id separator;
     Menu_Id first;
