@@ -50,12 +50,11 @@ build() {
     local preset=$1
     shift
     say "configuring ($preset)"
-    cmake --preset "$preset" >"/tmp/tonebench-configure-$$.log" 2>&1 || {
-        cat "/tmp/tonebench-configure-$$.log" >&2
-        rm -f "/tmp/tonebench-configure-$$.log"
+    local told
+    told=$(cmake --preset "$preset" 2>&1) || {
+        printf '%s\n' "$told" >&2
         fail "the build could not be configured"
     }
-    rm -f "/tmp/tonebench-configure-$$.log"
     say "building ($preset)"
     cmake --build --preset "$preset" "$@" || fail "the build failed"
 }

@@ -35,8 +35,10 @@ void Window_Hide(Window& window) {
 }
 
 void Window_Unload(Window& window) {
-    if (!window.loaded) return;
+    if (!window.loaded || window.unloading) return;
+    window.unloading = true;
     window.unload();
+    window.unloading = false;
     window.visible = false;
     window.loaded = false;
 }

@@ -22,6 +22,7 @@ struct Window {
     const char* name;
     std::string caption = {};
     bool loaded = false;
+    bool unloading = false;  // its unload procedure runs; events may come in meanwhile
     bool visible = false;
     bool enabled = true;
     Pointer pointer = Pointer::Default;

@@ -100,6 +100,8 @@ bool MIDI_Enumerate() {
 
 void MIDI_Check_Config() {
     Read_Channel();
+    // So that the keyboard button can play a sequence's notes before anything else has set it.
+    Seq_Status = Note_On_Status(MIDI_Channel);
     if (MIDI_Enabled != 1) return;
     if (!MIDI_Out_Caps.empty()) {
         Check_Device("OUTPUT", "output", MIDI_Out_Caps, MIDI_Out_Device, MIDI_Out_Name);

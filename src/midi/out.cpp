@@ -16,7 +16,7 @@ constexpr std::int16_t All_Notes_Off_Controller = 123;
 constexpr int Close_Wait_Milliseconds = 1;
 
 std::uint32_t Packed(std::int32_t status, std::int32_t data_1, std::int32_t data_2) {
-    return static_cast<std::uint32_t>(status | data_1 << 8 | data_2 << 16);
+    return static_cast<std::uint32_t>((status & 0xFF) | (data_1 & 0xFF) << 8 | (data_2 & 0xFF) << 16);
 }
 
 // Only the low 16 bits of a platform result are kept.

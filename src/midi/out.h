@@ -6,8 +6,9 @@
 //                     |
 //           one output port, opened at the first send
 //
-// No queue and no thread stand between a control and the port. A failure is shown in a box, closes the
-// port and switches MIDI off, so that one broken cable gives one box and not a hundred.
+// No queue and no thread stand between a control and the port. A failed open or short message is shown in a
+// box, closes the port and switches MIDI off, so that one broken cable gives one box and not a hundred. A
+// long message that the port cannot take is shown too, but leaves MIDI on: the device may come back.
 //
 // Left out: the long-message header and the yield that the classic service needs while it works on it.
 // Our ports copy the bytes, so a send never lets another event in.

@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "desk/ansi_qt.h"
 #include "panels/key_codes_qt.h"
 #include "panels/pictures_qt.h"
 #include "platform/gate.h"
@@ -11,31 +12,17 @@
 namespace {
 
 Mouse_Button Button_Of(Qt::MouseButton button) {
-    if (button == Qt::RightButton) return Mouse_Button::Right;
-    return button == Qt::MiddleButton ? Mouse_Button::Middle : Mouse_Button::Left;
+    if (button == Qt::LeftButton) return Mouse_Button::Left;
+    return button == Qt::RightButton ? Mouse_Button::Right : Mouse_Button::Other;
+}
+
+bool Is_Bare_Modifier(int key) {
+    return key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock;
 }
 
 // The part of a record that shows.
 bool Same_Look(const Control& a, const Control& b) {
     return a.picture == b.picture && a.text == b.text && a.font == b.font;
-}
-
-// ANSI (Windows-1252) to the toolkit's text. The codes 128 to 159 are the only ones that differ from
-// Latin-1.
-QString From_ANSI(const std::string& text) {
-    static constexpr char16_t High[32] = {0x20AC, 0x20,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-                                          0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x20,   0x017D, 0x20,
-                                          0x20,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-                                          0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x20,   0x017E, 0x0178};
-    QString result;
-    for (const char character : text) {
-        const auto code = static_cast<unsigned char>(character);
-        char16_t letter = code;
-        if (code < 32) letter = ' ';
-        if (code >= 128 && code < 160) letter = High[code - 128];
-        result += QChar(letter);
-    }
-    return result;
 }
 
 class Spoken_Control : public QAccessibleWidget {
@@ -82,7 +69,7 @@ QString Control_Widget::Spoken() const {
 
 void Control_Widget::Show_Changes() {
     setGeometry(record_.left, record_.top, record_.width, record_.height);
-    if (isEnabled() != record_.enabled && parentWidget()->isEnabled()) setEnabled(record_.enabled);
+    if (isEnabledTo(parentWidget()) != record_.enabled) setEnabled(record_.enabled);
     if (shown_.visible != record_.visible) setVisible(record_.visible);
     if (!Same_Look(shown_, record_)) update();
     const bool moved =
@@ -146,7 +133,19 @@ void Control_Widget::Paint_Field(QPainter& painter) const {
     }
 }
 
+// The rules move the control that has the focus. The toolkit gives it before a press, but tells so only
+// once the window is active.
+void Control_Widget::Take_Focus() {
+    Control* const before = panel_.window->active_control;
+    if (before == &record_ || !record_.focusable) return;
+    Guarded_Event([&] {
+        if (before != nullptr) panel_.events.focus_lost(*before);
+        panel_.events.focus_gained(record_);
+    });
+}
+
 void Control_Widget::mousePressEvent(QMouseEvent* event) {
+    Take_Focus();
     Guarded_Event([&] { panel_.events.button_pressed(record_, Button_Of(event->button())); });
 }
 
@@ -166,10 +165,16 @@ void Control_Widget::keyPressEvent(QKeyEvent* event) {
     const bool push =
         event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (push && *record_.kind == '\0' && !Is_Field()) {
+        if (event->isAutoRepeat()) return;
         // The buttons work by keyboard too.
         Guarded_Event([&] { panel_.events.button_pressed(record_, Mouse_Button::Left); });
         Guarded_Event([&] { panel_.events.button_released(record_, Mouse_Button::Left); });
         Guarded_Event([&] { panel_.events.clicked(record_); });
+        return;
+    }
+    if (Is_Field() && Is_Bare_Modifier(event->key())) {
+        // The beginning of a shortcut; a key of its own would open the name's dialog.
+        QWidget::keyPressEvent(event);
         return;
     }
     Guarded_Event([&] { panel_.events.key_pressed(record_, Classic_Key_Code(*event)); });

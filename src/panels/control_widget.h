@@ -27,6 +27,7 @@ class Control_Widget : public QWidget {
 
   private:
     bool Is_Field() const;
+    void Take_Focus();
     void Paint_Field(QPainter& painter) const;
 
     Control& record_;

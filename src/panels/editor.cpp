@@ -121,14 +121,6 @@ void Show_All(bool visible) {
     for (Control* control : Editor_Panel.controls) control->visible = visible;
 }
 
-// A control keeps its row while it is out of sight, so only its column is written again.
-void Arrange() {
-    for (std::size_t index = 0; index < Editor_Table.size(); ++index) {
-        Editor_Controls[index].left = Editor_Table[index].left;
-    }
-    Show_All(true);
-}
-
 void Conceal() {
     Show_All(false);
 }
@@ -138,6 +130,27 @@ void Set_Place(Control& control, int left, int top, int width, int height) {
     control.top = top;
     control.width = width;
     control.height = height;
+}
+
+// Everything that stands still: the columns of the table, and the rest of the window. Thumbs keep their
+// rows, which are the tone's.
+void Place_All() {
+    for (std::size_t index = 0; index < Editor_Table.size(); ++index) {
+        const Editor_Row& row = Editor_Table[index];
+        Editor_Controls[index].left = row.left;
+        if (Is_Knob(row.type)) Editor_Controls[index].top = row.top_row;
+    }
+    Set_Place(Editor_Tone_Name, 105, 291, 121, 27);
+    Set_Place(Editor_Seq_Start, 190, 221, 22, 22);
+    Set_Place(Editor_Keys_Pic, 216, 221, 43, 22);
+    Set_Place(Editor_Seq_Stop, 263, 221, 22, 22);
+    Set_Place(Editor_Pic_Tonebench, 181, 150, 110, 50);
+    Set_Place(Editor_Pic_Sign, 197, 202, 79, 14);
+}
+
+void Arrange() {
+    Place_All();
+    Show_All(true);
 }
 
 void Set_Picture(Control& control, Picture_Store store, int item = 0) {
@@ -227,6 +240,7 @@ Control& Editor_Control(const std::string& name) {
 }
 
 void Editor_Load_Pictures() {
+    Place_All();
     Set_Picture(Editor_Keys_Pic, Picture_Store::Buttons, Keys_Up);
     Set_Picture(Editor_Seq_Start, Picture_Store::Button_Up3D);
     Set_Picture(Editor_Seq_Stop, Picture_Store::Button_Up3D);
@@ -237,7 +251,6 @@ void Editor_Load_Pictures() {
     for (std::size_t index = 0; index < Editor_Table.size(); ++index) {
         const Editor_Row& row = Editor_Table[index];
         Set_Picture(Editor_Controls[index], Picture_Store::Buttons, Resting_Item(row));
-        Editor_Controls[index].left = row.left;
         Editor_Controls[index].top = row.bottom_row;
     }
     for (const Dot_Row& row : Dots) {
@@ -248,12 +261,6 @@ void Editor_Load_Pictures() {
     }
     Lay_Symbol(Editor_Seq_Start, Editor_Seq_Start_Pic);
     Lay_Symbol(Editor_Seq_Stop, Editor_Seq_Stop_Pic);
-    Set_Place(Editor_Tone_Name, 105, 291, 121, 27);
-    Set_Place(Editor_Seq_Start, 190, 221, 22, 22);
-    Set_Place(Editor_Keys_Pic, 216, 221, 43, 22);
-    Set_Place(Editor_Seq_Stop, 263, 221, 22, 22);
-    Set_Place(Editor_Pic_Tonebench, 181, 150, 110, 50);
-    Set_Place(Editor_Pic_Sign, 197, 202, 79, 14);
 }
 
 void Editor_Load() {
@@ -267,6 +274,7 @@ void Editor_Load() {
 }
 
 void Editor_Activated() {
+    Panel_Restore_Picture();
     Panel_Blink_Phase = 0;
     Panel_Current_Control = &Editor_Controls.front();
 }

@@ -211,6 +211,8 @@ void ED_Seq_Stop_Click() {
     Editor_Keys_Pic.picture = Picture_Of(Picture_Store::Buttons, Keys_Up);
     MIDI_All_Notes_Off();
     MIDI_Out_Close();
+    // A start that came in while the port was still playing would tick on a closed port.
+    Timer_Stop(Seq_Tmr);
     Seq_Running = Flag_8::False;
 }
 

@@ -5,6 +5,9 @@
 #include <cmath>
 #include <cstddef>
 #include <numbers>
+#include <string_view>
+
+#include "platform/numbers.h"
 
 namespace {
 
@@ -128,7 +131,7 @@ const Caption_Row& Caption_Of(const Editor_Row& row) {
     for (const Caption_Row& caption : Captions) {
         if (caption.parameter == row.parameter) return caption;
     }
-    return Captions.front();
+    throw Fatal_Error(std::string("No caption for ") + row.control);
 }
 
 // Whether the table has another control within this many pixels to the right of a thumb, at its height.

@@ -6,7 +6,7 @@
 
 #include "panels/controls.h"
 
-enum class Mouse_Button { Left, Right, Middle };
+enum class Mouse_Button { Left, Right, Other };
 
 // What a widget reports. `row` is the pointer's row relative to the control at the moment of the event, in
 // pixels; every handler gets the control's record.

@@ -1,5 +1,6 @@
 #include "panels/pictures_qt.h"
 
+#include <QCoreApplication>
 #include <QFontDatabase>
 #include <QPolygonF>
 #include <QSvgRenderer>
@@ -35,6 +36,8 @@ QString Printing_Family() {
 void Pictures_Open() {
     Q_INIT_RESOURCE(pictures);
     Q_INIT_RESOURCE(panel_font);
+    // Pixmaps must not outlive the application.
+    qAddPostRoutine([] { Drawn.clear(); });
 }
 
 const QPixmap& Picture_Pixmap(const Picture& picture, qreal ratio) {

@@ -1,6 +1,7 @@
 #include "platform/display.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QScreen>
@@ -23,7 +24,7 @@ int Display_Height() {
 }
 
 bool Font_File_Add(const std::string& path) {
-    const int number = QFontDatabase::addApplicationFont(QString::fromStdString(path));
+    const int number = QFontDatabase::addApplicationFont(QFile::decodeName(path.c_str()));
     if (number >= 0) Added_Fonts[path] = number;
     return number >= 0;
 }

@@ -1,9 +1,9 @@
 #include "platform/event_loop.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QTimer>
 #include <QWidget>
+#include <algorithm>
 
 #include "platform/gate.h"
 

@@ -1,5 +1,6 @@
 #include "platform/gate.h"
 
+#include <cstdio>
 #include <exception>
 
 #include "platform/message_box.h"
@@ -12,5 +13,10 @@ void Guarded_Event(const std::function<void()>& handler) {
     } catch (const std::exception& mistake) {
         Message_Box(mistake.what(), Buttons_Set::Ok, Icon::Stop);
     }
-    Windows_Show_Changes();
+    // A mistake in the showing itself must not go out into the toolkit, and a box would only show it again.
+    try {
+        Windows_Show_Changes();
+    } catch (const std::exception& mistake) {
+        std::fprintf(stderr, "tonebench: %s\n", mistake.what());
+    }
 }

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QIcon>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPointer>
 #include <QString>
@@ -65,6 +66,16 @@ Answer Answer_Of(int button, Buttons_Set buttons) {
     return buttons == Buttons_Set::Yes_No ? Answer::No : Answer::Cancel;
 }
 
+// The window that a box belongs to: the active one, or while another program is in front the main window,
+// so that the box does not open behind everything.
+QWidget* Window_In_Front() {
+    if (QApplication::activeWindow() != nullptr) return QApplication::activeWindow();
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && qobject_cast<QMainWindow*>(window) != nullptr) return window;
+    }
+    return nullptr;
+}
+
 // One line end for the three that the texts have.
 QString Lines(const std::string& text) {
     return QString::fromStdString(text).replace("\r\n", "\n").replace('\r', '\n').trimmed();
@@ -74,7 +85,7 @@ QString Lines(const std::string& text) {
 
 Answer Message_Box(const std::string& text, Buttons_Set buttons, Icon icon, const std::string& title) {
     Windows_Show_Changes();
-    const QPointer<QWidget> before = QApplication::activeWindow();
+    const QPointer<QWidget> before = Window_In_Front();
     QMessageBox box(QMessageBox::NoIcon, QString::fromStdString(title), Lines(text),
                     Toolkit_Buttons(buttons), before);
     Show_Icon(box, icon);

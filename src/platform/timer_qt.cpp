@@ -1,4 +1,5 @@
 // Timers on the toolkit's event loop: precise ones, which keep their phase.
+#include <QCoreApplication>
 #include <QTimer>
 #include <map>
 #include <memory>
@@ -8,8 +9,7 @@
 
 namespace {
 
-// One QTimer a record, made when it first runs. They go with the last timer stopped at exit, not with the
-// process: a QTimer must not outlive the application.
+// One QTimer a record, made when it first runs. They go with the application, which they must not outlive.
 std::map<Timer*, std::unique_ptr<QTimer>> Clocks;
 
 }  // namespace
@@ -19,6 +19,7 @@ void Timer_Start(Timer& timer) {
     if (timer.interval <= 0) return;
     std::unique_ptr<QTimer>& clock = Clocks[&timer];
     if (clock == nullptr) {
+        if (Clocks.size() == 1) qAddPostRoutine([] { Clocks.clear(); });
         clock = std::make_unique<QTimer>();
         clock->setTimerType(Qt::PreciseTimer);
         QObject::connect(clock.get(), &QTimer::timeout,

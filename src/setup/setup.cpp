@@ -163,6 +163,8 @@ void Setup_Cmd_OK() {
     const Setup_Form& form = MIDI_Setup_Form;
     Close_Input_Fully();
     MIDI_Out_Close_Fully();
+    // Events run while the port still plays: a second Ok or an Escape may have closed the dialog.
+    if (!MIDI_Setup.loaded || MIDI_Setup.unloading) return;
     if (form.input_devices.selected >= 0) MIDI_In_Device = To_Int16(form.input_devices.selected);
     if (form.output_devices.selected >= 0) MIDI_Out_Device = To_Int16(form.output_devices.selected);
     MIDI_In_Chosen = Trimmed(form.input_devices.Selected_Text());

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QPainter>
+#include <QScopedValueRollback>
 
 #include "desk/menus.h"
 #include "desk/windows.h"
@@ -14,6 +15,7 @@
 #include "platform/gate.h"
 #include "setup/setup_window.h"
 #include "shell/frame.h"
+#include "tname/tname_window.h"
 
 namespace {
 
@@ -108,11 +110,16 @@ void App_Window::Show_Menus() {
 void App_Window::Show_Panels() {
     if (Editor.loaded && editor_ == nullptr) {
         editor_ = new Panel_Window(Editor_Panel, Editor_Printing(), ground_);
-        QWidget::setTabOrder(menuBar(), editor_);
     }
     if (editor_ != nullptr) editor_->Show_Changes();
-    if (MIDI_Setup.loaded && setup_ == nullptr) setup_ = new Setup_Window(this);
+}
+
+// Behind the frame, as not every desktop lets a window come to the front later.
+void App_Window::Show_Dialogs() {
+    if (MIDI_Setup.loaded && setup_ == nullptr && isVisible()) setup_ = new Setup_Window(this);
     if (setup_ != nullptr) setup_->Show_Changes();
+    if (TName.loaded && tname_ == nullptr && isVisible()) tname_ = new TName_Window(this);
+    if (tname_ != nullptr) tname_->Show_Changes();
 }
 
 void App_Window::Show_Changes() {
@@ -122,8 +129,10 @@ void App_Window::Show_Changes() {
         changed_meanwhile_ = true;
         return;
     }
-    showing_ = true;
-    do {
+    constexpr int Most_Rounds = 3;
+    const QScopedValueRollback<bool> showing(showing_, true);
+    changed_meanwhile_ = true;
+    for (int round = 0; changed_meanwhile_ && round < Most_Rounds; ++round) {
         changed_meanwhile_ = false;
         setWindowTitle(QString::fromStdString(Main_Window.caption));
         if (cursor().shape() != Shape_Of(Main_Window.pointer)) setCursor(Shape_Of(Main_Window.pointer));
@@ -131,8 +140,8 @@ void App_Window::Show_Changes() {
         Show_Panels();
         Show_Place();
         Show_Frame();
-    } while (changed_meanwhile_);
-    showing_ = false;
+        Show_Dialogs();
+    }
 }
 
 App_Window::Place App_Window::Wanted_Place() {
@@ -177,8 +186,7 @@ void App_Window::Take_Place() {
     agreed_ = Wanted_Place();
 }
 
-// The frame appears when the start-up has ended, above it a dialog that came with it; and goes with the
-// end.
+// The frame appears when the start-up has ended, and goes with the end.
 void App_Window::Show_Frame() {
     if (isVisible() == Main_Window.visible) return;
     setVisible(Main_Window.visible);
@@ -186,12 +194,10 @@ void App_Window::Show_Frame() {
         QApplication::quit();
         return;
     }
-    QWidget* front = this;
-    if (setup_ != nullptr && setup_->isVisible()) front = setup_;
     // To activate a minimised window is to open it.
-    if (front == this && isMinimized()) return;
-    front->raise();
-    front->activateWindow();
+    if (isMinimized()) return;
+    raise();
+    activateWindow();
 }
 
 void App_Window::closeEvent(QCloseEvent* event) {

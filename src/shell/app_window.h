@@ -9,6 +9,7 @@
 
 class Panel_Window;
 class Setup_Window;
+class TName_Window;
 
 class App_Window : public QMainWindow {
   public:
@@ -28,6 +29,7 @@ class App_Window : public QMainWindow {
     void Build_Menus();
     void Show_Menus();
     void Show_Panels();
+    void Show_Dialogs();
     void Show_Place();
     void Take_Place();
     void Show_Frame();
@@ -43,6 +45,7 @@ class App_Window : public QMainWindow {
     QWidget* ground_;
     Panel_Window* editor_ = nullptr;
     Setup_Window* setup_ = nullptr;
+    TName_Window* tname_ = nullptr;
     std::vector<QAction*> entries_;  // one for each row of Menu_Tree
     Place agreed_;
     bool showing_ = false;

@@ -41,6 +41,7 @@ void Font_Install() {
 
 void Font_Remove() {
     if (!Is_True(Font_Loaded)) return;
+    Font_Loaded = Flag_16::False;
     const int error = Font_File_Remove(Font_Path());
     if (error != 0) Message_Box("Error " + std::to_string(error), Buttons_Set::Ok, Icon::Stop);
 }

@@ -22,6 +22,9 @@ namespace {
 
 constexpr const char* Settings_File = "Tonebench.INI";
 
+// From the first question of the end on; an end that is refused takes it back.
+bool Closing = false;
+
 // The question of the end, for one kind of work.
 Answer Ask_To_Save(const char* question) {
     return Message_Box(question, Buttons_Set::Yes_No_Cancel, Icon::Question);
@@ -141,9 +144,19 @@ void Main_Unload() {
 }
 
 bool Main_Close() {
-    if (!Main_Query_Unload()) return false;
+    // A second close may come while the first one asks, or waits for the port.
+    if (Closing) return false;
+    Closing = true;
+    try {
+        Closing = Main_Query_Unload();
+    } catch (...) {
+        Closing = false;
+        throw;
+    }
+    if (!Closing) return false;
     // A dialog that still stands open goes with the frame, and keeps its own settings as at any close.
     Window_Unload(MIDI_Setup);
+    Window_Unload(TName);
     Main_Unload();
     Main_Window.visible = false;
     return true;

@@ -16,6 +16,7 @@ void Program_Wire() {
     Setup_Install();
     Commands_Install();
     Tone_Commands_Install();
+    Name_Command_Install();
     Window_Commands_Install();
     Settings_Install();
     Timer_Display.tick = Main_Display_Tick;

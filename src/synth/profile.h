@@ -12,7 +12,7 @@
 
 extern std::string Synthesizer;  // "JX-8P", "MKS-70" or "Alpha Juno"; as read from the settings, unchecked
 
-// Token texts (see messages.h), each ending in a blank. Written by Sysex_Headers_Update.
+// Token texts (see tokens.h), each ending in a blank. Written by Sysex_Headers_Update.
 extern std::string Sysex_Header_APR;         // whole tone, opcode 35
 extern std::string Sysex_Header_IPR;         // single tone parameter and name, opcode 36
 extern std::string Sysex_Header_APR_Tone_B;  // second tone of the MKS-70

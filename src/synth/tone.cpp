@@ -1,5 +1,7 @@
 #include "synth/tone.h"
 
+#include <algorithm>
+
 #include "desk/menus.h"
 #include "desk/windows.h"
 #include "platform/text.h"

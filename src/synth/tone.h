@@ -4,7 +4,7 @@
 //   0-9    the name, one ANSI (Windows-1252) character a byte, blanks behind it
 //   10-58  the parameters; 10, 23, 24, 25 and 57 have no control and are only carried
 //
-// The table of parameters with their controls is panels/editor_table.cpp.
+// The table of parameters with their controls is panels/editor_table.h.
 #pragma once
 
 #include <array>

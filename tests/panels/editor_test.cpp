@@ -370,6 +370,33 @@ TEST_F(The_Editor, keyboard_tells_a_port_that_has_gone_once) {
     EXPECT_EQ(MIDI_Enabled, 0);
 }
 
+TEST_F(The_Editor, keyboard_plays_a_loaded_column_straight_behind_the_start) {
+    Seq_Notes[0] = 127;
+    Press("Keys_Pic");
+    EXPECT_EQ(Sent().front().substr(0, 2), "90");
+}
+
+TEST_F(The_Editor, keyboard_is_not_played_by_other_buttons) {
+    Press("Keys_Pic", Mouse_Button::Other);
+    EXPECT_EQ(Sent(), Lines{});
+    EXPECT_EQ(At("Keys_Pic").picture.item, Keys_Up);
+}
+
+TEST_F(The_Editor, keyboard_repeats_the_chord_without_an_end_of_the_notes) {
+    Press("Keys_Pic");
+    Sent();
+    Press("Keys_Pic");
+    EXPECT_EQ(Sent(), (Lines{"90 3C 5A", "90 40 5A", "90 43 5A", "90 48 5A"}));
+}
+
+TEST_F(The_Editor, keyboard_leaves_a_running_sequence_alone) {
+    Seq_Loaded = Flag_8::True;
+    Click("ED_Seq_Start");
+    Press("Keys_Pic", Mouse_Button::Right);
+    EXPECT_TRUE(Seq_Tmr.enabled);
+    EXPECT_EQ(Seq_Running, Flag_8::True);
+}
+
 TEST_F(The_Editor, keyboard_takes_an_empty_first_column_for_an_empty_matrix) {
     Seq_Notes[13] = 127;
     Press("Keys_Pic");

@@ -171,3 +171,13 @@ TEST_F(Focus_Mark, on_the_name_field_is_restored_when_the_focus_leaves_it) {
     Focus("VCF_LFO");
     EXPECT_EQ(At("VCF_Res").picture, Buttons(6));
 }
+
+TEST_F(Focus_Mark, is_not_left_on_the_old_control_when_the_panel_is_activated) {
+    Focus("VCF_Res");
+    Focus("Keys_Pic");
+    Panel_Blink_Phase = 1;
+    Panel_Blink();
+    ASSERT_EQ(At("VCF_Res").picture, Buttons(7));
+    Editor_Panel.events.activated();
+    EXPECT_EQ(At("VCF_Res").picture, Buttons(6));
+}

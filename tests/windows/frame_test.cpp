@@ -3,11 +3,13 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "desk/ansi_qt.h"
 #include "desk/menus.h"
 #include "desk/windows.h"
 #include "midi/out.h"
 #include "panels/editor.h"
 #include "setup/setup.h"
+#include "shell/frame.h"
 #include "synth/profile.h"
 #include "synth/tone.h"
 #include "windows/screen.h"
@@ -194,4 +196,62 @@ TEST_F(Frame, remembers_where_it_was_moved) {
     EXPECT_EQ(Main_Window.top, 55);
     EXPECT_EQ(Main_Window.width, 600);
     EXPECT_EQ(Main_Window.height, 550);
+}
+
+TEST_F(Frame, names_the_tone_in_a_dialog) {
+    Start();
+    QTest::mouseClick(Widget("Tone_Name"), Qt::LeftButton);
+    QWidget* dialog = Widget("TName");
+    ASSERT_TRUE(dialog->isVisible());
+    EXPECT_EQ(dialog->windowTitle(), "Tone Name");
+    EXPECT_FALSE(Widget("Editor")->isEnabled());
+    EXPECT_EQ(window_->findChild<QLabel*>("Prompt")->text(), "Please enter a name for the Tone:");
+    for (const char* name : {"Prompt", "TName_Tone_Name", "TName_Cmd_OK", "TName_Cmd_Cancel"}) {
+        EXPECT_TRUE(
+            dialog->rect().contains(QRect(Widget(name)->mapTo(dialog, QPoint(0, 0)), Widget(name)->size())))
+            << name;
+    }
+    QTest::keyClicks(Widget("TName_Tone_Name"), "bass solo12345");
+    QTest::keyClick(Widget("TName_Tone_Name"), Qt::Key_Return);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(Tone_Name_Text, "BASS SOLO1");
+    EXPECT_EQ(Sent().back(),
+              "F0 41 36 00 21 20 01 00 42 01 41 02 53 03 53 04 20 05 53 06 4F 07 4C 08 4F 09 31 0F");
+    EXPECT_EQ(Tone_Saved, Flag_16::True);
+}
+
+TEST_F(Frame, leaves_the_name_when_its_dialog_is_cancelled) {
+    Start();
+    for (const char* way : {"button", "escape"}) {
+        Entry("Menu_Tone_Name")->trigger();
+        ASSERT_TRUE(Widget("TName")->isVisible());
+        QTest::keyClicks(Widget("TName_Tone_Name"), "x");
+        if (std::string(way) == "button") {
+            QTest::mouseClick(Widget("TName_Cmd_Cancel"), Qt::LeftButton);
+        } else {
+            QTest::keyClick(Widget("TName"), Qt::Key_Escape);
+        }
+        EXPECT_FALSE(TName.loaded) << way;
+        EXPECT_EQ(Tone_Name_Text, "");
+    }
+    EXPECT_TRUE(Sent().empty());
+}
+
+TEST_F(Frame, does_not_end_twice) {
+    Start();
+    Tone_Saved = Flag_16::False;
+    Answer_With("Save actual TONE first?", Answer::No, [] { EXPECT_FALSE(Main_Close()); });
+    EXPECT_TRUE(window_->close());
+}
+
+TEST_F(Frame, translates_a_name_both_ways) {
+    EXPECT_EQ(To_ANSI("B\u00c4SS \u20ac\u0178"), "B\xC4SS \x80\x9F");
+    EXPECT_EQ(To_ANSI("\u4e2d"), "?");
+    EXPECT_EQ(From_ANSI("B\xC4SS \x80\x9F"), "B\u00c4SS \u20ac\u0178");
+    EXPECT_EQ(From_ANSI(std::string("\x01\x81", 2)), "  ");
+    for (int code = 32; code < 256; ++code) {
+        const std::string byte(1, static_cast<char>(code));
+        const bool free = code == 0x81 || code == 0x8D || code == 0x8F || code == 0x90 || code == 0x9D;
+        EXPECT_EQ(To_ANSI(From_ANSI(byte)), free ? " " : code == 127 ? "\x7F" : byte) << code;
+    }
 }

@@ -225,3 +225,42 @@ TEST_F(Panel_On_Screen, gives_the_ground_around_it_to_a_larger_frame) {
     const QImage ground = Picture_On(Widget("Back_Pic"));
     EXPECT_LT(qGray(ground.pixel(700, 600)), 40);
 }
+
+TEST_F(Panel_On_Screen, moves_the_pressed_thumb_also_in_a_window_that_is_not_active) {
+    Start();
+    Widget("DCO1_LFO")->setFocus();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    const int untouched = Widget("DCO1_LFO")->y();
+    QTest::mousePress(Widget("VCF_Res"), Qt::LeftButton, {}, QPoint(8, 8));
+    QTest::mouseMove(Widget("VCF_Res"), QPoint(8, -40));
+    EXPECT_EQ(Widget("DCO1_LFO")->y(), untouched);
+    EXPECT_EQ(Widget("VCF_Res")->y(), 112 - 40 * 80 / 127);
+}
+
+TEST_F(Panel_On_Screen, plays_once_while_space_is_held) {
+    Start();
+    Widget("Keys_Pic")->setFocus();
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, " ", true);
+    QApplication::sendEvent(Widget("Keys_Pic"), &held);
+    EXPECT_TRUE(Sent().empty());
+}
+
+TEST_F(Panel_On_Screen, does_not_play_by_the_back_button) {
+    Start();
+    QTest::mousePress(Widget("Keys_Pic"), Qt::BackButton);
+    EXPECT_TRUE(Sent().empty());
+}
+
+TEST_F(Panel_On_Screen, lets_a_shortcut_begin_on_the_name_field) {
+    Start();
+    Widget("Tone_Name")->setFocus();
+    QTest::keyClick(Widget("Tone_Name"), Qt::Key_Control);
+    EXPECT_FALSE(TName.loaded);
+    QTest::keyClick(Widget("Tone_Name"), Qt::Key_T, Qt::ControlModifier);
+    EXPECT_EQ(Sent().size(), 1U);
+    QTest::keyClick(Widget("Tone_Name"), Qt::Key_A);
+    EXPECT_TRUE(TName.loaded);
+}
