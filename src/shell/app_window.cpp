@@ -99,7 +99,8 @@ void App_Window::Show_Menus() {
     for (std::size_t index = 0; index < Menu_Tree.size(); ++index) {
         const Menu_Entry& entry = Menu_Tree[index];
         QAction& action = *entries_[index];
-        action.setText(QString::fromStdString(entry.caption).trimmed());
+        // The toolkit draws a line for a separator that has no text, and the text of one that has.
+        if (!Is_Separator(entry)) action.setText(QString::fromStdString(entry.caption).trimmed());
         action.setVisible(entry.visible && (Has_Function(index) || Is_Separator(entry)));
         action.setEnabled(entry.enabled);
         if (entry.checked) action.setCheckable(true);

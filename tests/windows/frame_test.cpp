@@ -53,6 +53,12 @@ TEST_F(Frame, shows_an_entry_as_soon_as_it_has_a_function) {
     EXPECT_TRUE(Entry("Menu_MIDI_Osc")->isVisible());
 }
 
+TEST_F(Frame, draws_a_line_for_a_separator_and_no_text) {
+    Start();
+    EXPECT_TRUE(Entry("Menu_File_Trenn_2")->isSeparator());
+    EXPECT_EQ(Entry("Menu_File_Trenn_2")->text(), "");
+}
+
 TEST_F(Frame, sends_the_tone_by_its_shortcut) {
     Start();
     Shortcut(Qt::Key_T);
