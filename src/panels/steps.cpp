@@ -8,7 +8,6 @@
 namespace {
 
 constexpr double Switch_Band = 32;
-constexpr double Octave = 12;
 
 }  // namespace
 
@@ -76,74 +75,60 @@ std::optional<double> Switch_Step(double value, int key, double ceiling) {
     return Clamped(value, 0, ceiling);
 }
 
-double Tune_Step(double semitones, int key) {
+namespace {
+
+// What a knob's keys reach: its two ends, its middle, and how far a page goes.
+struct Knob_Scale {
+    double lowest;
+    double highest;
+    double centre;
+    double page;
+};
+constexpr Knob_Scale Tune_Scale = {-12, 12, 0, 6};
+constexpr Knob_Scale Fine_Scale = {0, Highest_Value, 63, 10};
+
+double Knob_Step(double value, int key, const Knob_Scale& scale) {
     switch (key) {
         case Key_Up:
         case Key_Keypad_Plus:
         case Key_Right:
-            Panel_Inc(semitones);
+            Panel_Inc(value);
             break;
         case Key_Down:
         case Key_Keypad_Minus:
         case Key_Left:
-            Panel_Dec(semitones);
+            Panel_Dec(value);
             break;
         case Key_Page_Up:
-            semitones += Octave / 2;
+            value += scale.page;
             break;
         case Key_Page_Down:
-            semitones -= Octave / 2;
+            value -= scale.page;
             break;
         case Key_Home:
-            semitones = Octave;
+            value = scale.highest;
             break;
         case Key_End:
-            semitones = -Octave;
+            value = scale.lowest;
             break;
         case Key_0:
         case Key_Keypad_0:
-            semitones = 0;
+            value = scale.centre;
             break;
         default:
             break;
     }
-    return Clamped(semitones, -Octave, Octave);
+    return Clamped(value, scale.lowest, scale.highest);
+}
+
+}  // namespace
+
+double Tune_Step(double semitones, int key) {
+    return Knob_Step(semitones, key, Tune_Scale);
 }
 
 double Fine_Step(double byte, int key) {
-    constexpr double Page = 10;
-    constexpr double Centre = 63;
-    switch (key) {
-        case Key_Up:
-        case Key_Keypad_Plus:
-        case Key_Right:
-            Panel_Inc(byte);
-            break;
-        case Key_Down:
-        case Key_Keypad_Minus:
-        case Key_Left:
-            Panel_Dec(byte);
-            break;
-        case Key_Page_Up:
-            byte += Page;
-            break;
-        case Key_Page_Down:
-            byte -= Page;
-            break;
-        case Key_Home:
-            byte = Highest_Value;
-            break;
-        case Key_End:
-            byte = 0;
-            break;
-        case Key_0:
-        case Key_Keypad_0:
-            byte = Centre;
-            break;
-        default:
-            break;
-    }
-    return Clamped(byte, 0, Highest_Value);
+    return Knob_Step(byte, key, Fine_Scale);
 }
 
 double Toggled(double value) {
