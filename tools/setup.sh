@@ -18,7 +18,7 @@ build_packages=(
 # What building and running every test needs besides.
 test_packages=(
     libgtest-dev libbenchmark-dev
-    clang-format clang-tidy
+    clang clang-format clang-tidy libclang-rt-14-dev
     jackd2 xvfb xauth xdotool imagemagick
 )
 
