@@ -427,3 +427,40 @@ TEST_F(The_Editor, speaks_values_as_they_are_shown_and_positions_by_name) {
     Tone_Data[11] = 255;
     EXPECT_EQ(Editor_Panel.spoken_value(At("DCO1_Range")), "2'");
 }
+
+TEST_F(The_Editor, shows_bytes_above_127_as_its_formulas_have_them) {
+    std::string text;
+    Editor_Value_Text(35, 200, text);
+    EXPECT_EQ(text, "155");
+    Editor_Value_Text(13, 200, text);
+    EXPECT_EQ(text, "0");
+    Editor_Value_Text(20, 200, text);
+    EXPECT_EQ(text, "0");
+}
+
+TEST_F(The_Editor, places_its_pictures_and_buttons_again_when_it_is_arranged) {
+    for (const char* name : {"Keys_Pic", "ED_Seq_Start", "ED_Seq_Stop", "Pic_Tonebench", "Pic_Sign",
+                             "Tone_Name", "DCO1_Tune"}) {
+        const Control before = At(name);
+        At(name).left = At(name).top = 1;
+        Editor_Arrange();
+        EXPECT_EQ(At(name).left, before.left) << name;
+        EXPECT_EQ(At(name).top, before.top) << name;
+    }
+    EXPECT_EQ(At("Pic_Tonebench").width, 110);
+    EXPECT_EQ(At("Pic_Tonebench").height, 50);
+    EXPECT_EQ(At("Pic_Sign").width, 79);
+    EXPECT_EQ(At("Pic_Sign").height, 14);
+    EXPECT_EQ(At("ED_Seq_Start").width, 22);
+    EXPECT_EQ(At("ED_Seq_Stop").top, 221);
+}
+
+TEST_F(The_Editor, blinks_on_while_it_is_hidden) {
+    Synthesizer = "Alpha Juno";
+    Sysex_Headers_Update();
+    EXPECT_FALSE(Editor.visible);
+    EXPECT_TRUE(Timer1.enabled);
+    const auto phase = Panel_Blink_Phase;
+    Advance(250ms);
+    EXPECT_NE(Panel_Blink_Phase, phase);
+}

@@ -207,3 +207,12 @@ TEST_F(Knobs, alone_answer_the_placing_of_a_dot) {
     Panel_Current_Control = nullptr;
     Panel_Knob_Dot(12, 10, 12);
 }
+
+TEST_F(Knobs, are_known_by_their_kind_in_any_case) {
+    Control dot = {.name = "Tune_Knopf", .kind = "KNH"};
+    Panel_Current_Control = &dot;
+    Panel_Scratch_Real = 0;
+    Panel_Knob_Dot(12, 10, 12);
+    EXPECT_EQ(dot.left, 12);
+    EXPECT_EQ(dot.top, 5);
+}

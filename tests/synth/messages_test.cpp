@@ -184,3 +184,20 @@ TEST_F(Messages, leave_their_text_behind) {
     Editor_Send_Param(20);
     EXPECT_EQ(Sysex_Param_Text, "F0 41 36 0 21 20 01 14 40 F7");
 }
+
+TEST_F(Messages, of_the_whole_tone_name_channel_16_in_both_headers) {
+    MIDI_Channel = 16;
+    Sysex_Headers_Update();
+    Tone_Message_Build();
+    EXPECT_EQ(Sysex_Text[3], '\x0F');
+    EXPECT_EQ(Sysex_Text[71], '\x0F');
+}
+
+TEST_F(Messages, of_a_tone_parameter_keep_the_old_channel_until_the_headers_are_made_anew) {
+    MIDI_Channel = 5;
+    Editor_Send_Param(11);
+    EXPECT_EQ(Sent().front().substr(9, 2), "00");
+    Sysex_Headers_Update();
+    Editor_Send_Param(11);
+    EXPECT_EQ(Sent().front().substr(9, 2), "04");
+}

@@ -119,3 +119,9 @@ TEST_F(Profile, change_gives_the_controls_back_in_their_columns_and_rows) {
     EXPECT_EQ(At("VCF_Res").left, 438);
     EXPECT_EQ(At("VCF_Res").top, 60);
 }
+
+TEST_F(Profile, names_the_channel_in_the_second_tones_headers) {
+    Choose("MKS-70", 12);
+    EXPECT_EQ(Sysex_Header_APR_Tone_B, "F0 41 35 B 24 20 02 ");
+    EXPECT_EQ(Sysex_Header_IPR_Tone_B, "F0 41 36 B 24 20 02 ");
+}
