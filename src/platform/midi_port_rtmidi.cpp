@@ -132,7 +132,9 @@ std::vector<std::string> Port_Out_Names() {
 std::vector<std::string> Port_In_Names() {
     Port_Clients* const clients = Port_Clients_Reached();
     if (clients == nullptr) return {};
-    return Port_Names_Stable(Names_Of(Raw_Ports(*clients->in)));
+    const std::unique_ptr<RtMidiIn> in = Port_In_Client(*clients);
+    if (in == nullptr) return {};
+    return Port_Names_Stable(Names_Of(Raw_Ports(*in)));
 }
 
 Port_Result Port_Out_Open(int device, Port_Handle& handle) {

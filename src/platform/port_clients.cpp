@@ -67,10 +67,9 @@ std::unique_ptr<Port_Clients> Made(RtMidi::Api api,
     if (!clients->watch) return nullptr;
     const Error_Output_Kept errors;
     clients->out = std::make_unique<RtMidiOut>(api, name);
-    clients->in = std::make_unique<RtMidiIn>(api, name, In_Queue_Messages);
+    clients->api = api;
     if (!errors.Is_Empty()) return nullptr;
     clients->out->setErrorCallback(On_Error, nullptr);
-    clients->in->setErrorCallback(On_Error, nullptr);
     return clients;
 }
 
@@ -85,6 +84,17 @@ Port_Clients* Port_Clients_Reached() {
         (void)Asked([] { State.clients = Made(RtMidi::UNIX_JACK, Watch_Jack); });
     }
     return State.clients.get();
+}
+
+std::unique_ptr<RtMidiIn> Port_In_Client(const Port_Clients& clients) {
+    std::unique_ptr<RtMidiIn> client;
+    const Error_Output_Kept errors;
+    (void)Asked([&] {
+        client = std::make_unique<RtMidiIn>(clients.api, std::string(Port_Client_Name), In_Queue_Messages);
+    });
+    if (!client || !errors.Is_Empty()) return nullptr;
+    client->setErrorCallback(On_Error, nullptr);
+    return client;
 }
 
 void Port_Clients_Give_Up() {

@@ -1,4 +1,5 @@
-// RtMidi's two clients, out and in, each for the life of the process, and the watch beside them.
+// RtMidi's output client, for the life of the process, and the watch beside it. An input client is made
+// when one is wanted: on JACK it would be woken every period for nothing.
 //
 // They are made at the first question for a list of ports, on ALSA's sequencer, or where that cannot be
 // opened on JACK. When the service dies they are given up, and the next question tries to make new ones.
@@ -24,12 +25,15 @@ inline constexpr std::string_view Port_Client_Name = "Tonebench";
 struct Port_Clients {
     std::unique_ptr<Port_Watch> watch;
     std::unique_ptr<RtMidiOut> out;
-    std::unique_ptr<RtMidiIn> in;
+    RtMidi::Api api = RtMidi::UNSPECIFIED;
     Port_Clients* given_up_before = nullptr;  // a chain of those whose service has died
 };
 
 // The clients, made anew if there are none or if their service has died. Null where no service is reached.
 Port_Clients* Port_Clients_Reached();
+
+// A client for the input side, on the same service. Null where it cannot be made.
+std::unique_ptr<RtMidiIn> Port_In_Client(const Port_Clients& clients);
 
 // Forgets the clients without closing them, since closing waits for an answer that no longer comes.
 void Port_Clients_Give_Up();
