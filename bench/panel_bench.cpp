@@ -6,16 +6,14 @@
 #include "midi/out.h"
 #include "panels/editor.h"
 #include "panels/steps.h"
-#include "platform/event_loop.h"
-#include "platform/message_box.h"
-#include "platform/timer.h"
+#include "platform/midi_port.h"
 #include "shell/wiring.h"
 #include "synth/messages.h"
 #include "synth/profile.h"
 #include "synth/tone.h"
 #include "synth/views.h"
 
-// The smallest bodies of the platform: nothing of them is measured.
+// Ports that only take the bytes: nothing of them is measured.
 std::vector<std::string> Port_Out_Names() {
     return {"Synth"};
 }
@@ -43,38 +41,6 @@ Port_Result Port_Out_Long(Port_Handle, std::string_view bytes) {
 std::string Port_Error_Text(Port_Result) {
     return "";
 }
-Answer Message_Box(const std::string&, Buttons_Set, Icon, const std::string&) {
-    return Answer::Ok;
-}
-void Timer_Start(Timer& timer) {
-    timer.enabled = true;
-}
-void Timer_Stop(Timer& timer) {
-    timer.enabled = false;
-}
-bool Event_Loop_Turn() {
-    return true;
-}
-bool Event_Loop_Wait(int) {
-    return true;
-}
-double Display_Logical_Density() {
-    return 96;
-}
-int Display_Height() {
-    return 768;
-}
-bool Font_File_Add(const std::string&) {
-    return true;
-}
-int Font_File_Remove(const std::string&) {
-    return 0;
-}
-bool System_Sound_Play(const std::string&) {
-    return true;
-}
-void Beep() {}
-
 namespace {
 
 void Prepare() {

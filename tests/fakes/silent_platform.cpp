@@ -1,35 +1,10 @@
-// The smallest bodies of the platform for the fuzz targets: nothing is shown, nothing leaves, no time
-// passes.
+// The smallest bodies of the platform, for figures and fuzz targets: nothing is shown and no time passes.
+// The ports are the user's own.
 #include "platform/display.h"
 #include "platform/event_loop.h"
 #include "platform/message_box.h"
-#include "platform/midi_port.h"
 #include "platform/timer.h"
 
-std::vector<std::string> Port_Out_Names() {
-    return {};
-}
-std::vector<std::string> Port_In_Names() {
-    return {};
-}
-Port_Result Port_Out_Open(int, Port_Handle&) {
-    return Port_No_Driver;
-}
-Port_Result Port_Out_Close(Port_Handle) {
-    return Port_Ok;
-}
-Port_Result Port_Out_Short(Port_Handle, std::uint32_t) {
-    return Port_Bad_Handle;
-}
-Port_Result Port_Out_Ready(Port_Handle) {
-    return Port_Bad_Handle;
-}
-Port_Result Port_Out_Long(Port_Handle, std::string_view) {
-    return Port_Bad_Handle;
-}
-std::string Port_Error_Text(Port_Result) {
-    return "";
-}
 Answer Message_Box(const std::string&, Buttons_Set buttons, Icon, const std::string&) {
     return buttons == Buttons_Set::Ok ? Answer::Ok : Answer::Yes;
 }
