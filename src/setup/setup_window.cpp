@@ -63,8 +63,7 @@ QCheckBox* Setup_Window::Box(const char* name, const char* caption, void (*click
     return box;
 }
 
-Setup_Window::Setup_Window(QWidget* parent) : QDialog(parent) {
-    setObjectName(MIDI_Setup.name);
+Setup_Window::Setup_Window(QWidget* parent) : Child_Window(MIDI_Setup, parent) {
     synthesizer_type_ = List("SynthesizerType", Setup_SynthesizerType_Change);
     output_devices_ = List("Output_Devices", Setup_Output_Change);
     input_devices_ = List("Input_Devices", Setup_Input_Change);
@@ -95,14 +94,7 @@ Setup_Window::Setup_Window(QWidget* parent) : QDialog(parent) {
     layout->addWidget(ok_, 0, Qt::AlignRight);
 }
 
-void Setup_Window::Show_Changes() {
-    if (!MIDI_Setup.visible) {
-        if (isVisible()) {
-            QDialog::hide();
-            parentWidget()->activateWindow();
-        }
-        return;
-    }
+void Setup_Window::Show_Contents() {
     const Setup_Form& form = MIDI_Setup_Form;
     Show_List(*synthesizer_type_, form.synthesizer_type);
     Show_List(*output_devices_, form.output_devices);
@@ -111,21 +103,12 @@ void Setup_Window::Show_Changes() {
     Show_Box(*enable_, form.enable);
     Show_Box(*auto_send_, form.auto_send);
     Show_Box(*auto_play_, form.auto_play);
-    if (!isVisible()) {
-        setWindowTitle(QString::fromStdString(MIDI_Setup.caption));
-        setFixedSize(MIDI_Setup.width, MIDI_Setup.height);
-        move(MIDI_Setup.left, MIDI_Setup.top);
-        setCursor(Qt::ArrowCursor);
-        show();
-        synthesizer_type_->setFocus();
-    }
-    if (times_raised_ != MIDI_Setup.times_raised) {
-        times_raised_ = MIDI_Setup.times_raised;
-        raise();
-        activateWindow();
-    }
 }
 
-void Setup_Window::reject() {
-    Guarded_Event(Setup_Escape);
+void Setup_Window::Appeared() {
+    synthesizer_type_->setFocus();
+}
+
+void Setup_Window::Close_Asked() {
+    Setup_Escape();
 }

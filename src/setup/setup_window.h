@@ -1,20 +1,20 @@
 // The dialog MIDI_Setup on the screen.
 #pragma once
 
-#include <QDialog>
+#include "desk/child_window.h"
 
 class QCheckBox;
 class QComboBox;
 class QPushButton;
 
-class Setup_Window : public QDialog {
+class Setup_Window : public Child_Window {
   public:
     explicit Setup_Window(QWidget* parent);
 
-    // Brings the widgets up to the records, and the dialog onto the screen or off it.
-    void Show_Changes();
-
-    void reject() override;  // Escape and the close box
+  protected:
+    void Show_Contents() override;
+    void Appeared() override;
+    void Close_Asked() override;
 
   private:
     QComboBox* List(const char* name, void (*changed)(int));
@@ -28,5 +28,4 @@ class Setup_Window : public QDialog {
     QCheckBox* auto_send_;
     QCheckBox* auto_play_;
     QPushButton* ok_;
-    int times_raised_ = 0;
 };

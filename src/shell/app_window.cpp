@@ -58,9 +58,26 @@ Qt::WindowState Toolkit_State(Window_State state) {
     return state == Window_State::Maximised ? Qt::WindowMaximized : Qt::WindowNoState;
 }
 
+template <class Kind>
+Child_Window* Make(QWidget* parent) {
+    return new Kind(parent);
+}
+
+struct Child_Row {
+    Window& record;
+    Child_Window* (*make)(QWidget* parent);
+};
+
+// The windows over the main one.
+constexpr Child_Row Children[] = {
+    {MIDI_Setup, Make<Setup_Window>},
+    {TName, Make<TName_Window>},
+};
+
 }  // namespace
 
-App_Window::App_Window() : ground_(new Ground(this)), agreed_(Wanted_Place()) {
+App_Window::App_Window()
+    : ground_(new Ground(this)), children_(std::size(Children)), agreed_(Wanted_Place()) {
     setObjectName(Main_Window.name);
     setCentralWidget(ground_);
     setMinimumSize(Smallest_Frame);
@@ -116,11 +133,14 @@ void App_Window::Show_Panels() {
 }
 
 // Behind the frame, as not every desktop lets a window come to the front later.
-void App_Window::Show_Dialogs() {
-    if (MIDI_Setup.loaded && setup_ == nullptr && isVisible()) setup_ = new Setup_Window(this);
-    if (setup_ != nullptr) setup_->Show_Changes();
-    if (TName.loaded && tname_ == nullptr && isVisible()) tname_ = new TName_Window(this);
-    if (tname_ != nullptr) tname_->Show_Changes();
+void App_Window::Show_Children() {
+    for (std::size_t index = 0; index < std::size(Children); ++index) {
+        Child_Window*& child = children_[index];
+        if (Children[index].record.loaded && child == nullptr && isVisible()) {
+            child = Children[index].make(this);
+        }
+        if (child != nullptr) child->Show_Changes();
+    }
 }
 
 void App_Window::Show_Changes() {
@@ -141,7 +161,7 @@ void App_Window::Show_Changes() {
         Show_Panels();
         Show_Place();
         Show_Frame();
-        Show_Dialogs();
+        Show_Children();
     }
 }
 

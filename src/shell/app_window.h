@@ -7,9 +7,8 @@
 
 #include "desk/windows.h"
 
+class Child_Window;
 class Panel_Window;
-class Setup_Window;
-class TName_Window;
 
 class App_Window : public QMainWindow {
   public:
@@ -29,7 +28,7 @@ class App_Window : public QMainWindow {
     void Build_Menus();
     void Show_Menus();
     void Show_Panels();
-    void Show_Dialogs();
+    void Show_Children();
     void Show_Place();
     void Take_Place();
     void Show_Frame();
@@ -44,9 +43,8 @@ class App_Window : public QMainWindow {
 
     QWidget* ground_;
     Panel_Window* editor_ = nullptr;
-    Setup_Window* setup_ = nullptr;
-    TName_Window* tname_ = nullptr;
-    std::vector<QAction*> entries_;  // one for each row of Menu_Tree
+    std::vector<Child_Window*> children_;  // one for each row of Children, null until it is needed
+    std::vector<QAction*> entries_;        // one for each row of Menu_Tree
     Place agreed_;
     bool showing_ = false;
     bool changed_meanwhile_ = false;

@@ -12,8 +12,7 @@
 #include "synth/tone.h"
 #include "tname/tname.h"
 
-TName_Window::TName_Window(QWidget* parent) : QDialog(parent), tone_name_(new QLineEdit(this)) {
-    setObjectName(TName.name);
+TName_Window::TName_Window(QWidget* parent) : Child_Window(TName, parent), tone_name_(new QLineEdit(this)) {
     auto* prompt = new QLabel(TName_Prompt, this);
     prompt->setObjectName("Prompt");
     prompt->setBuddy(tone_name_);
@@ -38,32 +37,16 @@ TName_Window::TName_Window(QWidget* parent) : QDialog(parent), tone_name_(new QL
     layout->addWidget(buttons);
 }
 
-void TName_Window::Show_Changes() {
-    if (!TName.visible) {
-        if (isVisible()) {
-            QDialog::hide();
-            parentWidget()->activateWindow();
-        }
-        return;
-    }
+void TName_Window::Show_Contents() {
     const QString text = From_ANSI(TName_Dialog.tone_name);
     if (tone_name_->text() != text) tone_name_->setText(text);
-    if (!isVisible()) {
-        setWindowTitle(QString::fromStdString(TName.caption));
-        setFixedSize(TName.width, TName.height);
-        move(TName.left, TName.top);
-        setCursor(Qt::ArrowCursor);
-        show();
-        tone_name_->setFocus();
-        tone_name_->selectAll();
-    }
-    if (times_raised_ != TName.times_raised) {
-        times_raised_ = TName.times_raised;
-        raise();
-        activateWindow();
-    }
 }
 
-void TName_Window::reject() {
-    Guarded_Event(TName_Cmd_Cancel);
+void TName_Window::Appeared() {
+    tone_name_->setFocus();
+    tone_name_->selectAll();
+}
+
+void TName_Window::Close_Asked() {
+    TName_Cmd_Cancel();
 }

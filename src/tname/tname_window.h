@@ -1,20 +1,19 @@
 // The dialog TName on the screen.
 #pragma once
 
-#include <QDialog>
+#include "desk/child_window.h"
 
 class QLineEdit;
 
-class TName_Window : public QDialog {
+class TName_Window : public Child_Window {
   public:
     explicit TName_Window(QWidget* parent);
 
-    // Brings the field up to the record, and the dialog onto the screen or off it.
-    void Show_Changes();
-
-    void reject() override;  // Escape and the close box
+  protected:
+    void Show_Contents() override;
+    void Appeared() override;
+    void Close_Asked() override;
 
   private:
     QLineEdit* tone_name_;
-    int times_raised_ = 0;
 };

@@ -1,0 +1,53 @@
+#include "desk/child_window.h"
+
+#include "platform/gate.h"
+
+Child_Window::Child_Window(Window& record, QWidget* parent) : QDialog(parent), record_(record) {
+    setObjectName(record.name);
+}
+
+void Child_Window::Show_Changes() {
+    if (!record_.visible) {
+        if (isVisible()) {
+            QDialog::hide();
+            parentWidget()->activateWindow();
+        }
+        return;
+    }
+    Show_Contents();
+    const QString title = QString::fromStdString(record_.caption);
+    if (windowTitle() != title) setWindowTitle(title);
+    if (size() != QSize(record_.width, record_.height)) setFixedSize(record_.width, record_.height);
+    if (isEnabled() != record_.enabled) setEnabled(record_.enabled);
+    const Qt::CursorShape shape = record_.pointer == Pointer::Hourglass ? Qt::WaitCursor : Qt::ArrowCursor;
+    if (cursor().shape() != shape) setCursor(shape);
+    Show_Place();
+    if (!isVisible()) {
+        show();
+        Appeared();
+    }
+    if (times_raised_ != record_.times_raised) {
+        times_raised_ = record_.times_raised;
+        raise();
+        activateWindow();
+    }
+}
+
+// Where the record differs from the last agreement, a rule has spoken; else the user's move stands.
+void Child_Window::Show_Place() {
+    const QPoint wanted(record_.left, record_.top);
+    if (isVisible() && wanted == agreed_) return;
+    move(wanted);
+    agreed_ = wanted;
+}
+
+void Child_Window::moveEvent(QMoveEvent*) {
+    if (!isVisible()) return;
+    record_.left = x();
+    record_.top = y();
+    agreed_ = pos();
+}
+
+void Child_Window::reject() {
+    Guarded_Event([this] { Close_Asked(); });
+}
