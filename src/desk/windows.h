@@ -26,10 +26,11 @@ struct Window {
     bool visible = false;
     bool enabled = true;
     Pointer pointer = Pointer::Default;
-    int left = 0;  // pixels; the main window's on the screen, a panel's in the main window's client area
+    int left = 0;  // pixels on the screen
     int top = 0;
     int width = 0;
     int height = 0;
+    bool inside = false;  // left and top count from the corner of the main window's client area
     Window_State state = Window_State::Normal;
     int times_raised = 0;               // each count brings the window to the front once
     Control* active_control = nullptr;  // the control of the window that has the focus
@@ -58,6 +59,11 @@ extern std::int16_t Patch_Left;
 extern std::int16_t Patch_Top;
 extern std::int16_t Seq_Window_Left;
 extern std::int16_t Seq_Window_Top;
+
+// For a window that stands open: bring it to its remembered place, and remember its place. What 16 bits of
+// twips cannot hold is kept as near as they can.
+void Window_Place(Window& window, std::int16_t left_twips, std::int16_t top_twips);
+void Window_Keep_Place(const Window& window, std::int16_t& left_twips, std::int16_t& top_twips);
 
 void Window_Load(Window& window);
 

@@ -13,6 +13,7 @@
 #include "panels/panel_window.h"
 #include "panels/pictures_qt.h"
 #include "platform/gate.h"
+#include "seqwin/seqwin_window.h"
 #include "setup/setup_window.h"
 #include "shell/frame.h"
 #include "tname/tname_window.h"
@@ -59,19 +60,20 @@ Qt::WindowState Toolkit_State(Window_State state) {
 }
 
 template <class Kind>
-Child_Window* Make(QWidget* parent) {
+Child_Window* Make(QMainWindow* parent) {
     return new Kind(parent);
 }
 
 struct Child_Row {
     Window& record;
-    Child_Window* (*make)(QWidget* parent);
+    Child_Window* (*make)(QMainWindow* parent);
 };
 
 // The windows over the main one.
 constexpr Child_Row Children[] = {
     {MIDI_Setup, Make<Setup_Window>},
     {TName, Make<TName_Window>},
+    {Sequencer, Make<Sequencer_Window>},
 };
 
 }  // namespace
@@ -105,6 +107,8 @@ void App_Window::Build_Menus() {
             action = open_menus.back()->addAction("");
             action->setSeparator(Is_Separator(entry));
             action->setShortcut(QKeySequence(entry.shortcut));
+            // The windows over this one are parts of it, and have no menu of their own.
+            action->setShortcutContext(Qt::ApplicationShortcut);
             connect(action, &QAction::triggered, [&entry] { Guarded_Event([&entry] { entry.chosen(); }); });
         }
         action->setObjectName(entry.name);
