@@ -517,6 +517,13 @@ def caption_cancel():
     return s
 
 
+def tone_symbol(name):
+    """The letter of a tone, on its push button; centred like the symbols."""
+    s = sheet(14, 14)
+    word(s, [(name, 6, 0)], 4, 3, 10, 2, 2, printing)
+    return s
+
+
 def sign():
     """The word PROGRAMMER."""
     s = sheet(79, 14)
@@ -609,6 +616,8 @@ def all_pictures():
         "dlg2_dn": push_button(65, 34, True, 3),
         "dlg2_ok": caption_ok(),
         "dlg2_cancel": caption_cancel(),
+        "tone_a_pic": tone_symbol("A"),
+        "tone_b_pic": tone_symbol("B"),
         "back_pic": ground_tile(),
         "pic_tonebench": logo(),
         "pic_sign": sign(),

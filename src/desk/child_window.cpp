@@ -14,11 +14,12 @@ void Child_Window::Show_Changes() {
         }
         return;
     }
+    // Before the contents: a window that is locked takes no focus.
+    if (isEnabled() != record_.enabled) setEnabled(record_.enabled);
     Show_Contents();
     const QString title = QString::fromStdString(record_.caption);
     if (windowTitle() != title) setWindowTitle(title);
     if (size() != QSize(record_.width, record_.height)) setFixedSize(record_.width, record_.height);
-    if (isEnabled() != record_.enabled) setEnabled(record_.enabled);
     const Qt::CursorShape shape = record_.pointer == Pointer::Hourglass ? Qt::WaitCursor : Qt::ArrowCursor;
     if (cursor().shape() != shape) setCursor(shape);
     Show_Place();
@@ -36,16 +37,24 @@ void Child_Window::Show_Changes() {
 // Where the record differs from the last agreement, a rule has spoken; else the user's move stands.
 void Child_Window::Show_Place() {
     const QPoint wanted(record_.left, record_.top);
-    if (isVisible() && wanted == agreed_) return;
-    move(wanted);
+    if (isVisible() && wanted == agreed_) {
+        if (Origin() != agreed_origin_) Take_Place();
+        return;
+    }
     agreed_ = wanted;
+    agreed_origin_ = Origin();
+    move(agreed_origin_ + wanted);
+}
+
+void Child_Window::Take_Place() {
+    agreed_origin_ = Origin();
+    agreed_ = pos() - agreed_origin_;
+    record_.left = agreed_.x();
+    record_.top = agreed_.y();
 }
 
 void Child_Window::moveEvent(QMoveEvent*) {
-    if (!isVisible()) return;
-    record_.left = x();
-    record_.top = y();
-    agreed_ = pos();
+    if (isVisible()) Take_Place();
 }
 
 void Child_Window::reject() {

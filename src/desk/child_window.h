@@ -22,13 +22,17 @@ class Child_Window : public QDialog {
     virtual void Appeared() {}
     // The user wants it gone. Runs guarded; as a rule it unloads the record.
     virtual void Close_Asked() = 0;
+    // Where on the screen the record's places count from.
+    virtual QPoint Origin() const { return {}; }
 
     void moveEvent(QMoveEvent* event) override;
 
   private:
     void Show_Place();
+    void Take_Place();
 
     Window& record_;
-    QPoint agreed_;  // the place as record and screen last agreed on it
+    QPoint agreed_;         // the place as record and screen last agreed on it
+    QPoint agreed_origin_;  // what it counted from
     int times_raised_ = 0;
 };

@@ -26,7 +26,8 @@ struct Window {
     bool visible = false;
     bool enabled = true;
     Pointer pointer = Pointer::Default;
-    int left = 0;  // pixels; the main window's on the screen, a panel's in the main window's client area
+    int left = 0;  // pixels; the main window's on the screen, a panel's and a patch window's in the
+                   // main window's client area
     int top = 0;
     int width = 0;
     int height = 0;
@@ -45,6 +46,7 @@ extern Window Main_Window;
 extern Window Editor;
 extern Window Editor_Juno;
 extern Window Patch;
+extern Window Patch_MKS70;
 extern Window Sequencer;
 extern Window MIDI_Setup;
 extern Window TName;
@@ -53,11 +55,16 @@ extern Window TName;
 extern Flag_8 Patch_Window_Open;
 extern Flag_8 Seq_Window_Open;
 
-// Remembered places, in twips.
+// Remembered places, in twips. That of Patch is the place of whichever of the two patch windows closed last.
 extern std::int16_t Patch_Left;
 extern std::int16_t Patch_Top;
 extern std::int16_t Seq_Window_Left;
 extern std::int16_t Seq_Window_Top;
+
+// For a window that stands open: bring it to its remembered place, and remember its place. What 16 bits of
+// twips cannot hold is kept as near as they can.
+void Window_Place(Window& window, std::int16_t left_twips, std::int16_t top_twips);
+void Window_Keep_Place(const Window& window, std::int16_t& left_twips, std::int16_t& top_twips);
 
 void Window_Load(Window& window);
 

@@ -6,28 +6,14 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include "desk/form_qt.h"
 #include "desk/windows.h"
 #include "platform/gate.h"
 #include "setup/setup.h"
 
 namespace {
-
-void Show_List(QComboBox& widget, const Drop_Down& record) {
-    const QSignalBlocker quiet(widget);
-    QStringList entries;
-    for (const std::string& entry : record.entries) entries << QString::fromStdString(entry);
-    QStringList shown;
-    for (int index = 0; index < widget.count(); ++index) shown << widget.itemText(index);
-    if (shown != entries) {
-        widget.clear();
-        widget.addItems(entries);
-    }
-    widget.setCurrentIndex(record.selected);
-    widget.setEnabled(record.enabled);
-}
 
 void Show_Box(QCheckBox& widget, const Check_Box& record) {
     widget.setChecked(record.checked);
@@ -96,10 +82,10 @@ Setup_Window::Setup_Window(QWidget* parent) : Child_Window(MIDI_Setup, parent) {
 
 void Setup_Window::Show_Contents() {
     const Setup_Form& form = MIDI_Setup_Form;
-    Show_List(*synthesizer_type_, form.synthesizer_type);
-    Show_List(*output_devices_, form.output_devices);
-    Show_List(*input_devices_, form.input_devices);
-    Show_List(*channel_, form.channel);
+    Show_Drop_Down(*synthesizer_type_, form.synthesizer_type);
+    Show_Drop_Down(*output_devices_, form.output_devices);
+    Show_Drop_Down(*input_devices_, form.input_devices);
+    Show_Drop_Down(*channel_, form.channel);
     Show_Box(*enable_, form.enable);
     Show_Box(*auto_send_, form.auto_send);
     Show_Box(*auto_play_, form.auto_play);

@@ -10,7 +10,9 @@
 #include "desk/windows.h"
 #include "panels/editor.h"
 #include "panels/editor_printing.h"
+#include "panels/mks_patch_window.h"
 #include "panels/panel_window.h"
+#include "panels/patch_window.h"
 #include "panels/pictures_qt.h"
 #include "platform/gate.h"
 #include "setup/setup_window.h"
@@ -72,6 +74,8 @@ struct Child_Row {
 constexpr Child_Row Children[] = {
     {MIDI_Setup, Make<Setup_Window>},
     {TName, Make<TName_Window>},
+    {Patch, Make<Patch_Window>},
+    {Patch_MKS70, Make<MKS_Patch_Window>},
 };
 
 }  // namespace
@@ -105,6 +109,8 @@ void App_Window::Build_Menus() {
             action = open_menus.back()->addAction("");
             action->setSeparator(Is_Separator(entry));
             action->setShortcut(QKeySequence(entry.shortcut));
+            // The windows over the main one have no menu of their own: its shortcuts work in all of them.
+            action->setShortcutContext(Qt::ApplicationShortcut);
             connect(action, &QAction::triggered, [&entry] { Guarded_Event([&entry] { entry.chosen(); }); });
         }
         action->setObjectName(entry.name);

@@ -3,6 +3,8 @@
 #include "desk/timers.h"
 #include "panels/controls.h"
 #include "panels/editor.h"
+#include "panels/mks_patch.h"
+#include "panels/patch.h"
 #include "setup/setup.h"
 #include "shell/commands.h"
 #include "shell/frame.h"
@@ -13,6 +15,9 @@
 void Program_Wire() {
     Controls_Install();
     Editor_Install();
+    Patch_Install();
+    MKS_Patch_Install();
+    Patch_Lamps_Reset = Patch_Lamps_To_First;
     Setup_Install();
     Commands_Install();
     Tone_Commands_Install();

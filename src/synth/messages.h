@@ -31,6 +31,7 @@ void Tone_Send();
 // is a programming mistake (Fatal_Error).
 void Editor_Send_Param(std::size_t parameter);
 void Patch_Send_Param(std::size_t parameter);
+void Patch_MKS70_Param_Send(std::size_t index);
 
 // The ten name bytes of Tone_Data, under the same guard.
 void Tone_Name_Send();
