@@ -10,6 +10,7 @@
 #include "panels/printing.h"
 
 class Control_Widget;
+class Graph_Widget;
 
 class Panel_Window : public QWidget {
   public:
@@ -30,5 +31,6 @@ class Panel_Window : public QWidget {
     Printing printing_;
     QPixmap ground_;  // printed once for each device pixel ratio
     std::vector<Control_Widget*> widgets_;
+    Graph_Widget* graph_ = nullptr;
     int times_raised_ = 0;
 };

@@ -3,16 +3,25 @@
 #include "desk/timers.h"
 #include "panels/controls.h"
 #include "panels/editor.h"
+#include "panels/juno_panel.h"
 #include "setup/setup.h"
 #include "shell/commands.h"
+#include "shell/display_check.h"
 #include "shell/frame.h"
 #include "shell/settings_file.h"
 #include "shell/tone_commands.h"
 #include "shell/window_commands.h"
+#include "synth/juno.h"
+#include "synth/juno_file.h"
 
 void Program_Wire() {
     Controls_Install();
     Editor_Install();
+    Juno_Install();
+    Juno_File_Install();
+    Juno_Panel_Install();
+    Juno_Take_Font = Juno_Set_Font;
+    Juno_Show_Name = Juno_Display_Tick;
     Setup_Install();
     Commands_Install();
     Tone_Commands_Install();
