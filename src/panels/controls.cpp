@@ -133,6 +133,10 @@ std::int16_t Panel_Knob_Movement(double row) {
     return movement;
 }
 
+Control Plain_Control(Window& window, const char* name, const char* spoken_name, bool focusable) {
+    return {.name = name, .spoken_name = spoken_name, .window = &window, .focusable = focusable};
+}
+
 void Control_Set_Place(Control& control, int left, int top, int width, int height) {
     control.left = left;
     control.top = top;

@@ -84,6 +84,9 @@ void Panel_Blink_Tick();
 void Panel_Knob_Dot(int centre_left, int centre_top, double degrees_a_unit);
 void Panel_Knob_Show(const std::string& kind, int centre_top, int centre_left, double degrees_a_unit);
 
+// A control without a kind: a button, a field, a decoration.
+Control Plain_Control(Window& window, const char* name, const char* spoken_name, bool focusable);
+
 void Control_Set_Place(Control& control, int left, int top, int width, int height);
 // The picture, and the size that comes with it.
 void Control_Set_Picture(Control& control, Picture_Store store, int item = 0);

@@ -88,7 +88,7 @@ void Print_Thumb(Printing& printing, const Thumb_Print& print) {
     } else {
         constexpr double Half_A_Name = 7;
         const auto count = static_cast<int>(print.positions.size());
-        Print_Rail(printing, row.left, row.top - (count - 1) * Switch_Pitch, row.top);
+        Print_Rail(printing, {row.left, row.top - (count - 1) * Switch_Pitch, row.top});
         for (int position = 0; position < count; ++position) {
             Print_Position(printing, {print.positions[static_cast<std::size_t>(position)]}, row.left,
                            row.top - position * Switch_Pitch + Thumb_Half, true);

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "panels/control_widget.h"
+#include "panels/graph_widget.h"
 #include "panels/pictures_qt.h"
 #include "platform/gate.h"
 
@@ -23,6 +24,7 @@ Panel_Window::Panel_Window(const Panel& panel, Printing printing, QWidget* paren
         if (before != nullptr) setTabOrder(before, widget);
         before = widget;
     }
+    if (panel.graph != nullptr) graph_ = new Graph_Widget(*panel.graph, this);
 }
 
 Control_Widget* Panel_Window::Widget_Of(const Control* control) const {
@@ -46,6 +48,7 @@ void Panel_Window::Show_Changes() {
 
 void Panel_Window::Show_Controls() {
     for (Control_Widget* widget : widgets_) widget->Show_Changes();
+    if (graph_ != nullptr) graph_->Show_Changes();
     Show_Focus();
 }
 
@@ -54,7 +57,7 @@ void Panel_Window::Show_Controls() {
 void Panel_Window::Show_Focus() {
     const Control* active = panel_.window->active_control;
     Control_Widget* widget = Widget_Of(active);
-    if (widget == nullptr || !isEnabled()) return;
+    if (widget == nullptr || !isEnabled() || !isVisibleTo(window())) return;
     const bool lost = isVisible() && window()->focusWidget() == nullptr;
     if (active == agreed_focus_ && !lost) return;
     agreed_focus_ = active;
@@ -73,7 +76,11 @@ void Panel_Window::paintEvent(QPaintEvent*) {
 }
 
 bool Panel_Window::event(QEvent* event) {
-    if (event->type() == QEvent::WindowActivate) Guarded_Event([this] { panel_.events.activated(); });
-    if (event->type() == QEvent::WindowDeactivate) Guarded_Event([this] { panel_.events.deactivated(); });
+    // The frame tells all its panels; only the one on show is meant.
+    if (panel_.window->visible) {
+        if (event->type() == QEvent::WindowActivate) Guarded_Event([this] { panel_.events.activated(); });
+        if (event->type() == QEvent::WindowDeactivate)
+            Guarded_Event([this] { panel_.events.deactivated(); });
+    }
     return QWidget::event(event);
 }

@@ -10,6 +10,7 @@
 #include "panels/printing.h"
 
 class Control_Widget;
+class Graph_Widget;
 
 class Panel_Window : public QWidget {
   public:
@@ -33,5 +34,6 @@ class Panel_Window : public QWidget {
     QPixmap ground_;  // printed once for each device pixel ratio
     std::vector<Control_Widget*> widgets_;
     const Control* agreed_focus_ = nullptr;  // the active control as record and screen last agreed on it
+    Graph_Widget* graph_ = nullptr;
     int times_raised_ = 0;
 };

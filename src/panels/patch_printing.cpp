@@ -26,7 +26,7 @@ const char* Caption_Of(const Patch_Row& row) {
 template <std::size_t Count>
 void Print_Positions(Printing& printing, const Patch_Row& row,
                      const std::array<const char*, Count>& names) {
-    Print_Rail(printing, row.left, row.top_row, row.bottom_row);
+    Print_Rail(printing, {row.left, row.top_row, row.bottom_row});
     for (std::size_t position = 0; position < Count; ++position) {
         const int rise = static_cast<int>(position) * Switch_Pitch;
         Print_Position(printing, {names[position]}, row.left, row.bottom_row - rise + Thumb_Half, true);

@@ -3,14 +3,18 @@
 #include "desk/timers.h"
 #include "panels/controls.h"
 #include "panels/editor.h"
+#include "panels/juno_panel.h"
 #include "panels/mks_patch.h"
 #include "panels/patch.h"
 #include "setup/setup.h"
 #include "shell/commands.h"
+#include "shell/display_check.h"
 #include "shell/frame.h"
 #include "shell/settings_file.h"
 #include "shell/tone_commands.h"
 #include "shell/window_commands.h"
+#include "synth/juno.h"
+#include "synth/juno_file.h"
 
 void Program_Wire() {
     Controls_Install();
@@ -18,6 +22,11 @@ void Program_Wire() {
     Patch_Install();
     MKS_Patch_Install();
     Patch_Lamps_Reset = Patch_Lamps_To_First;
+    Juno_Install();
+    Juno_File_Install();
+    Juno_Panel_Install();
+    Juno_Take_Font = Juno_Set_Font;
+    Juno_Show_Name = Juno_Display_Tick;
     Setup_Install();
     Commands_Install();
     Tone_Commands_Install();
