@@ -1,8 +1,11 @@
 #include "desk/child_window.h"
 
+#include <QGuiApplication>
+
 #include "platform/gate.h"
 
-Child_Window::Child_Window(Window& record, QWidget* parent) : QDialog(parent), record_(record) {
+Child_Window::Child_Window(Window& record, QMainWindow* parent)
+    : QDialog(parent), record_(record), main_(parent) {
     setObjectName(record.name);
 }
 
@@ -10,7 +13,7 @@ void Child_Window::Show_Changes() {
     if (!record_.visible) {
         if (isVisible()) {
             QDialog::hide();
-            parentWidget()->activateWindow();
+            main_->activateWindow();
         }
         return;
     }
@@ -34,21 +37,26 @@ void Child_Window::Show_Changes() {
     }
 }
 
-// Where the record differs from the last agreement, a rule has spoken; else the user's move stands.
+QPoint Child_Window::Origin() const {
+    return record_.inside ? main_->centralWidget()->mapToGlobal(QPoint()) : QPoint();
+}
+
+// Where the record differs from the last agreement, a rule has spoken; else the user's move stands, be it
+// this window that moved or the main one below it.
 void Child_Window::Show_Place() {
     const QPoint wanted(record_.left, record_.top);
     if (isVisible() && wanted == agreed_) {
-        if (Origin() != agreed_origin_) Take_Place();
+        Take_Place();
         return;
     }
+    const QPoint place = Origin() + wanted;
+    // A screen that has been taken away takes no window with it.
+    move(QGuiApplication::screenAt(place) == nullptr ? Origin() : place);
     agreed_ = wanted;
-    agreed_origin_ = Origin();
-    move(agreed_origin_ + wanted);
 }
 
 void Child_Window::Take_Place() {
-    agreed_origin_ = Origin();
-    agreed_ = pos() - agreed_origin_;
+    agreed_ = pos() - Origin();
     record_.left = agreed_.x();
     record_.top = agreed_.y();
 }

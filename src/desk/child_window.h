@@ -3,12 +3,13 @@
 #pragma once
 
 #include <QDialog>
+#include <QMainWindow>
 
 #include "desk/windows.h"
 
 class Child_Window : public QDialog {
   public:
-    Child_Window(Window& record, QWidget* parent);
+    Child_Window(Window& record, QMainWindow* parent);
 
     // Brings the contents up to the records, and the window onto the screen or off it.
     void Show_Changes();
@@ -22,17 +23,16 @@ class Child_Window : public QDialog {
     virtual void Appeared() {}
     // The user wants it gone. Runs guarded; as a rule it unloads the record.
     virtual void Close_Asked() = 0;
-    // Where on the screen the record's places count from.
-    virtual QPoint Origin() const { return {}; }
 
     void moveEvent(QMoveEvent* event) override;
 
   private:
+    QPoint Origin() const;  // of the record's place, on the screen
     void Show_Place();
     void Take_Place();
 
     Window& record_;
-    QPoint agreed_;         // the place as record and screen last agreed on it
-    QPoint agreed_origin_;  // what it counted from
+    QMainWindow* main_;
+    QPoint agreed_;  // the place as record and screen last agreed on it
     int times_raised_ = 0;
 };

@@ -2,7 +2,7 @@
 
 #include <QSignalBlocker>
 
-void Show_Drop_Down(QComboBox& widget, const Drop_Down& record) {
+void Show_List(QComboBox& widget, const Drop_Down& record) {
     const QSignalBlocker quiet(widget);
     QStringList entries;
     for (const std::string& entry : record.entries) entries << QString::fromStdString(entry);
@@ -13,5 +13,10 @@ void Show_Drop_Down(QComboBox& widget, const Drop_Down& record) {
         widget.addItems(entries);
     }
     widget.setCurrentIndex(record.selected);
+    widget.setEnabled(record.enabled);
+}
+
+void Show_Box(QCheckBox& widget, const Check_Box& record) {
+    widget.setChecked(record.checked);
     widget.setEnabled(record.enabled);
 }

@@ -1,9 +1,10 @@
-// The stock controls of form.h on the screen.
+// Stock controls on the screen, brought up to their records.
 #pragma once
 
+#include <QCheckBox>
 #include <QComboBox>
 
 #include "desk/form.h"
 
-// Brings the widget up to the record, without its telling of a change.
-void Show_Drop_Down(QComboBox& widget, const Drop_Down& record);
+void Show_List(QComboBox& widget, const Drop_Down& record);
+void Show_Box(QCheckBox& widget, const Check_Box& record);

@@ -20,11 +20,11 @@ std::int16_t Nearest_Twips(int pixels) {
 // The main window's size is that of a first start: just large enough for a panel of 528 by 456 pixels
 // with border and menu.
 Window Main_Window = {.name = "Tonebench", .width = 541, .height = 508};
-Window Editor = {.name = "Editor"};
-Window Editor_Juno = {.name = "Editor_Juno"};
-Window Patch = {.name = "Patch"};
-Window Patch_MKS70 = {.name = "Patch_MKS70"};
-Window Sequencer = {.name = "Sequencer"};
+Window Editor = {.name = "Editor", .inside = true};
+Window Editor_Juno = {.name = "Editor_Juno", .inside = true};
+Window Patch = {.name = "Patch", .inside = true};
+Window Patch_MKS70 = {.name = "Patch_MKS70", .inside = true};
+Window Sequencer = {.name = "Sequencer", .inside = true};
 Window MIDI_Setup = {.name = "MIDI_Setup"};
 Window TName = {.name = "TName"};
 
@@ -49,7 +49,12 @@ void Window_Keep_Place(const Window& window, std::int16_t& left_twips, std::int1
 void Window_Load(Window& window) {
     if (window.loaded) return;
     window.loaded = true;
-    window.load();
+    try {
+        window.load();
+    } catch (...) {
+        window.loaded = false;
+        throw;
+    }
 }
 
 void Window_Show(Window& window) {

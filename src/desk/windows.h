@@ -26,11 +26,11 @@ struct Window {
     bool visible = false;
     bool enabled = true;
     Pointer pointer = Pointer::Default;
-    int left = 0;  // pixels; the main window's on the screen, a panel's and a patch window's in the
-                   // main window's client area
+    int left = 0;  // pixels on the screen
     int top = 0;
     int width = 0;
     int height = 0;
+    bool inside = false;  // left and top count from the corner of the main window's client area
     Window_State state = Window_State::Normal;
     int times_raised = 0;               // each count brings the window to the front once
     Control* active_control = nullptr;  // the control of the window that has the focus

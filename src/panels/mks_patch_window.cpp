@@ -21,7 +21,7 @@ void Dress(QWidget& widget, const char* name, const char* spoken_name, const MKS
 
 }  // namespace
 
-MKS_Patch_Window::MKS_Patch_Window(QWidget* parent)
+MKS_Patch_Window::MKS_Patch_Window(QMainWindow* parent)
     : Panel_Child_Window(Patch_MKS70_Panel, MKS_Patch_Printing(), parent),
       patch_name_(new QLineEdit(this)),
       tone_number_(new QComboBox(this)),
@@ -49,8 +49,8 @@ void MKS_Patch_Window::Show_Contents() {
     Panel_Child_Window::Show_Contents();
     const QString name = From_ANSI(Patch_MKS70_Form.patch_name);
     if (patch_name_->text() != name) patch_name_->setText(name);
-    Show_Drop_Down(*tone_number_, Patch_MKS70_Form.tone_number);
-    Show_Drop_Down(*split_point_, Patch_MKS70_Form.split_point);
+    Show_List(*tone_number_, Patch_MKS70_Form.tone_number);
+    Show_List(*split_point_, Patch_MKS70_Form.split_point);
 }
 
 void MKS_Patch_Window::Close_Asked() {

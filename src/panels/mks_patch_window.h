@@ -8,7 +8,7 @@ class QLineEdit;
 
 class MKS_Patch_Window : public Panel_Child_Window {
   public:
-    explicit MKS_Patch_Window(QWidget* parent);
+    explicit MKS_Patch_Window(QMainWindow* parent);
 
   protected:
     void Show_Contents() override;

@@ -2,12 +2,11 @@
 // go to the panel's handlers, and what the records say is what is shown.
 #pragma once
 
-#include <QPixmap>
 #include <QWidget>
 #include <vector>
 
 #include "panels/panel.h"
-#include "panels/printing.h"
+#include "panels/pictures_qt.h"
 
 class Control_Widget;
 class Graph_Widget;
@@ -30,8 +29,7 @@ class Panel_Window : public QWidget {
     void Show_Focus();
 
     const Panel& panel_;
-    Printing printing_;
-    QPixmap ground_;  // printed once for each device pixel ratio
+    Printed_Ground ground_;
     std::vector<Control_Widget*> widgets_;
     const Control* agreed_focus_ = nullptr;  // the active control as record and screen last agreed on it
     Graph_Widget* graph_ = nullptr;

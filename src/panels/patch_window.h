@@ -5,7 +5,7 @@
 
 class Patch_Window : public Panel_Child_Window {
   public:
-    explicit Patch_Window(QWidget* parent);
+    explicit Patch_Window(QMainWindow* parent);
 
   protected:
     void Close_Asked() override;

@@ -1,7 +1,5 @@
 #include "setup/setup_window.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -14,11 +12,6 @@
 #include "setup/setup.h"
 
 namespace {
-
-void Show_Box(QCheckBox& widget, const Check_Box& record) {
-    widget.setChecked(record.checked);
-    widget.setEnabled(record.enabled);
-}
 
 void Add_Row(QGridLayout& grid, const char* name, const char* text, QComboBox* list) {
     auto* label = new QLabel(text);
@@ -49,7 +42,7 @@ QCheckBox* Setup_Window::Box(const char* name, const char* caption, void (*click
     return box;
 }
 
-Setup_Window::Setup_Window(QWidget* parent) : Child_Window(MIDI_Setup, parent) {
+Setup_Window::Setup_Window(QMainWindow* parent) : Child_Window(MIDI_Setup, parent) {
     synthesizer_type_ = List("SynthesizerType", Setup_SynthesizerType_Change);
     output_devices_ = List("Output_Devices", Setup_Output_Change);
     input_devices_ = List("Input_Devices", Setup_Input_Change);
@@ -82,10 +75,10 @@ Setup_Window::Setup_Window(QWidget* parent) : Child_Window(MIDI_Setup, parent) {
 
 void Setup_Window::Show_Contents() {
     const Setup_Form& form = MIDI_Setup_Form;
-    Show_Drop_Down(*synthesizer_type_, form.synthesizer_type);
-    Show_Drop_Down(*output_devices_, form.output_devices);
-    Show_Drop_Down(*input_devices_, form.input_devices);
-    Show_Drop_Down(*channel_, form.channel);
+    Show_List(*synthesizer_type_, form.synthesizer_type);
+    Show_List(*output_devices_, form.output_devices);
+    Show_List(*input_devices_, form.input_devices);
+    Show_List(*channel_, form.channel);
     Show_Box(*enable_, form.enable);
     Show_Box(*auto_send_, form.auto_send);
     Show_Box(*auto_play_, form.auto_play);

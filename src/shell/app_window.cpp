@@ -17,6 +17,7 @@
 #include "panels/patch_window.h"
 #include "panels/pictures_qt.h"
 #include "platform/gate.h"
+#include "seqwin/seqwin_window.h"
 #include "setup/setup_window.h"
 #include "shell/frame.h"
 #include "tname/tname_window.h"
@@ -63,13 +64,13 @@ Qt::WindowState Toolkit_State(Window_State state) {
 }
 
 template <class Kind>
-Child_Window* Make(QWidget* parent) {
+Child_Window* Make(QMainWindow* parent) {
     return new Kind(parent);
 }
 
 struct Child_Row {
     Window& record;
-    Child_Window* (*make)(QWidget* parent);
+    Child_Window* (*make)(QMainWindow* parent);
 };
 
 struct Panel_Row {
@@ -89,6 +90,7 @@ constexpr Child_Row Children[] = {
     {TName, Make<TName_Window>},
     {Patch, Make<Patch_Window>},
     {Patch_MKS70, Make<MKS_Patch_Window>},
+    {Sequencer, Make<Sequencer_Window>},
 };
 
 }  // namespace
@@ -125,7 +127,7 @@ void App_Window::Build_Menus() {
             action = open_menus.back()->addAction("");
             action->setSeparator(Is_Separator(entry));
             action->setShortcut(QKeySequence(entry.shortcut));
-            // The windows over the main one have no menu of their own: its shortcuts work in all of them.
+            // The windows over this one are parts of it, and have no menu of their own.
             action->setShortcutContext(Qt::ApplicationShortcut);
             connect(action, &QAction::triggered, [&entry] { Guarded_Event([&entry] { entry.chosen(); }); });
         }

@@ -6,10 +6,13 @@
 #include "panels/juno_panel.h"
 #include "panels/mks_patch.h"
 #include "panels/patch.h"
+#include "sequencer/engine.h"
+#include "seqwin/seqwin.h"
 #include "setup/setup.h"
 #include "shell/commands.h"
 #include "shell/display_check.h"
 #include "shell/frame.h"
+#include "shell/sequence_commands.h"
 #include "shell/settings_file.h"
 #include "shell/tone_commands.h"
 #include "shell/window_commands.h"
@@ -18,6 +21,7 @@
 
 void Program_Wire() {
     Controls_Install();
+    Sequencer_Install();
     Editor_Install();
     Patch_Install();
     MKS_Patch_Install();
@@ -27,9 +31,11 @@ void Program_Wire() {
     Juno_Panel_Install();
     Juno_Take_Font = Juno_Set_Font;
     Juno_Show_Name = Juno_Display_Tick;
+    Seqwin_Install();
     Setup_Install();
     Commands_Install();
     Tone_Commands_Install();
+    Sequence_Commands_Install();
     Name_Command_Install();
     Window_Commands_Install();
     Settings_Install();
