@@ -23,6 +23,7 @@ Window Main_Window = {.name = "Tonebench", .width = 541, .height = 508};
 Window Editor = {.name = "Editor", .inside = true};
 Window Editor_Juno = {.name = "Editor_Juno", .inside = true};
 Window Patch = {.name = "Patch", .inside = true};
+Window Patch_MKS70 = {.name = "Patch_MKS70", .inside = true};
 Window Sequencer = {.name = "Sequencer", .inside = true};
 Window MIDI_Setup = {.name = "MIDI_Setup"};
 Window TName = {.name = "TName"};
