@@ -2,6 +2,7 @@
 #include "desk/windows.h"
 #include "fakes/juno_stage.h"
 #include "midi/out.h"
+#include "platform/random.h"
 #include "synth/messages.h"
 #include "synth/patch.h"
 #include "synth/profile.h"
