@@ -27,6 +27,7 @@ Window Patch_MKS70 = {.name = "Patch_MKS70", .inside = true};
 Window Sequencer = {.name = "Sequencer", .inside = true};
 Window MIDI_Setup = {.name = "MIDI_Setup"};
 Window TName = {.name = "TName"};
+Window Help = {.name = "Help"};
 
 Flag_8 Patch_Window_Open = Flag_8::False;
 Flag_8 Seq_Window_Open = Flag_8::False;

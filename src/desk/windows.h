@@ -51,6 +51,7 @@ extern Window Patch_MKS70;
 extern Window Sequencer;
 extern Window MIDI_Setup;
 extern Window TName;
+extern Window Help;
 
 // Whether the windows that may come and go stand open; written by their load and unload.
 extern Flag_8 Patch_Window_Open;

@@ -9,6 +9,7 @@
 
 #include "desk/menus.h"
 #include "desk/windows.h"
+#include "help/help_window.h"
 #include "panels/editor.h"
 #include "panels/editor_printing.h"
 #include "panels/juno_panel.h"
@@ -86,13 +87,16 @@ constexpr Panel_Row Panels[] = {
 };
 
 // The windows over the main one.
+// clang-format off
 constexpr Child_Row Children[] = {
     {MIDI_Setup, Make<Setup_Window>},
     {TName, Make<TName_Window>},
     {Patch, Make<Patch_Window>},
     {Patch_MKS70, Make<MKS_Patch_Window>},
     {Sequencer, Make<Sequencer_Window>},
+    {Help, Make<Help_Window>},
 };
+// clang-format on
 
 }  // namespace
 

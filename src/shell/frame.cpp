@@ -156,6 +156,7 @@ bool Main_Close() {
     // A dialog that still stands open goes with the frame, and keeps its own settings as at any close.
     Window_Unload(MIDI_Setup);
     Window_Unload(TName);
+    Window_Unload(Help);
     Window_Unload(Patch_MKS70);
     Main_Unload();
     Main_Window.visible = false;

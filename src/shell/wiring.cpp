@@ -1,6 +1,8 @@
 #include "shell/wiring.h"
 
 #include "desk/timers.h"
+#include "help/help.h"
+#include "help/howto.h"
 #include "panels/controls.h"
 #include "panels/editor.h"
 #include "panels/juno_panel.h"
@@ -33,6 +35,8 @@ void Program_Wire() {
     Juno_Show_Name = Juno_Display_Tick;
     Seqwin_Install();
     Setup_Install();
+    Help_Install();
+    Help_Show_Waiting = Howto_Show_Waiting;
     Commands_Install();
     Tone_Commands_Install();
     Sequence_Commands_Install();
