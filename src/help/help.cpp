@@ -13,7 +13,7 @@
 namespace {
 
 constexpr int Width = 640;
-constexpr int Height = 430;
+constexpr int Height = 404;
 
 void Fill_About() {
     Help_Form& form = Help_Window_Form;

@@ -49,21 +49,6 @@ QLabel* Heading(const char* name, const char* text, QWidget* buddy) {
     return label;
 }
 
-// A text that the user reads and does not touch, on the ground of a text field.
-QLabel* Read_Out(const char* name, const char* spoken) {
-    auto* label = new QLabel;
-    label->setObjectName(name);
-    label->setAccessibleDescription(spoken);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->setMargin(8);
-    label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    label->setAutoFillBackground(true);
-    label->setBackgroundRole(QPalette::Base);
-    label->setFrameStyle(QFrame::Box | QFrame::Plain);
-    return label;
-}
-
 // A record's lines, of which each ends with carriage return and line feed, or with a line feed alone.
 QString Lines_Of(const std::string& text) {
     QString lines;
@@ -102,6 +87,15 @@ void Show_Frame(QWidget& frame, const char* page) {
     if (frame.isHidden() == wanted) frame.setVisible(wanted);
 }
 
+// The button of the visible page is down and has its name lit.
+void Show_Button(QPushButton& button, const char* page) {
+    const bool down = Help_Window_Form.page == page;
+    button.setChecked(down);
+    QPalette palette = button.palette();
+    palette.setColor(QPalette::ButtonText, Ink_Colour(down ? Ink::Heading : Ink::Print));
+    if (button.palette() != palette) button.setPalette(palette);
+}
+
 QPushButton* Page_Button(const char* name, const char* caption, void (*clicked)()) {
     auto* button = new QPushButton(caption);
     button->setObjectName(name);
@@ -133,26 +127,34 @@ QPlainTextEdit* Help_Window::Text(const char* name, const char* spoken) {
     return text;
 }
 
+// A text beside a control: not a stop on the way of the TAB key.
+QPlainTextEdit* Help_Window::Read_Out(const char* name, const char* spoken) {
+    QPlainTextEdit* text = Text(name, spoken);
+    text->setFocusPolicy(Qt::NoFocus);
+    return text;
+}
+
 QWidget* Help_Window::Make_Credits() {
     auto* frame = new QWidget;
     frame->setObjectName("Frame_Credits");
     about_ = Text("About", "Informations");
     credits_ = List("Credits", "Credits", Help_Credits_Click);
     credits_why_ = Read_Out("Credits_Why", "Reason");
-    credits_why_->setMinimumHeight(58);
+    credits_why_->setFixedHeight(56);
 
-    auto* signs = new QVBoxLayout;
-    signs->addWidget(new Picture_View("Help_Pic_Tonebench", Picture_Store::Pic_Tonebench), 0,
-                     Qt::AlignHCenter);
-    signs->addWidget(new Picture_View("Help_Pic_Sign", Picture_Store::Pic_Sign), 0, Qt::AlignHCenter);
+    auto* signs = new QHBoxLayout;
+    signs->setSpacing(16);
+    signs->addWidget(new Picture_View("Help_Pic_Tonebench", Picture_Store::Pic_Tonebench));
+    signs->addWidget(new Picture_View("Help_Pic_Sign", Picture_Store::Pic_Sign));
+    signs->addStretch(1);
+    auto* left = new QVBoxLayout;
+    left->addLayout(signs);
+    left->addWidget(Heading("Label5", Help_Label_About, about_));
+    left->addWidget(about_, 1);
     auto* right = new QVBoxLayout;
-    right->addLayout(signs);
     right->addWidget(Heading("Label10", Help_Label_Credits, credits_));
     right->addWidget(credits_, 1);
     right->addWidget(credits_why_);
-    auto* left = new QVBoxLayout;
-    left->addWidget(Heading("Label5", Help_Label_About, about_));
-    left->addWidget(about_, 1);
     auto* layout = new QHBoxLayout(frame);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(14);
@@ -236,21 +238,21 @@ void Help_Window::Show_Contents() {
     const Help_Form& form = Help_Window_Form;
     Show_Text(*about_, form.about);
     Show_Entries(*credits_, form.credits);
-    credits_why_->setText(From_ANSI(form.credits_why));
+    Show_Text(*credits_why_, form.credits_why);
 
     const QString keyword = From_ANSI(form.keyword);
     if (keyword_->text() != keyword) keyword_->setText(keyword);
     Show_Entries(*key_list_, form.key_list);
     Show_Text(*description_, form.description);
 
-    info_->setText(Lines_Of(Help_Info));
+    Show_Text(*info_, Help_Info);
 
     Show_Frame(*frame_credits_, "About");
     Show_Frame(*frame_howto_, "Howto");
     Show_Frame(*frame_search_, "Search");
-    cmd_about_->setChecked(form.page == "About");
-    cmd_howto_->setChecked(form.page == "Howto");
-    cmd_search_->setChecked(form.page == "Search");
+    Show_Button(*cmd_about_, "About");
+    Show_Button(*cmd_howto_, "Howto");
+    Show_Button(*cmd_search_, "Search");
     ground_->Show_Controls();
 
     if (keyword_focused_ != form.keyword_focused) {

@@ -4,7 +4,6 @@
 #include "desk/child_window.h"
 
 class Panel_Window;
-class QLabel;
 class QLineEdit;
 class QListWidget;
 class QPlainTextEdit;
@@ -25,15 +24,16 @@ class Help_Window : public Child_Window {
     QWidget* Make_Search();
     QListWidget* List(const char* name, const char* spoken, void (*chosen)(int));
     QPlainTextEdit* Text(const char* name, const char* spoken);
+    QPlainTextEdit* Read_Out(const char* name, const char* spoken);
 
     QWidget* frame_credits_;
     QPlainTextEdit* about_;
     QListWidget* credits_;
-    QLabel* credits_why_;
+    QPlainTextEdit* credits_why_;
 
     QWidget* frame_howto_;
     Panel_Window* ground_;
-    QLabel* info_;
+    QPlainTextEdit* info_;
 
     QWidget* frame_search_;
     QLineEdit* keyword_;

@@ -15,7 +15,7 @@ namespace {
 constexpr double Slider_Page = 16;
 constexpr std::uint8_t Switch_On = 64;
 constexpr std::uint8_t Last_Off = 63;
-constexpr int Display_Width = 253;  // 21 characters: "Waiting for action..."
+constexpr int Display_Width = 253;  // has room for "Waiting for action..."
 
 constexpr std::array<const char*, 4> LED_Names = {"A", "B", "C", "D"};
 
@@ -277,9 +277,8 @@ void Howto_Load() {
         Control_Set_Place(Help_LED_SW[entry], LED_Left, LED_Top + static_cast<int>(entry) * LED_Pitch,
                           Lamp_Size, Lamp_Size);
     }
-    Control_Set_Place(Help_HName, (Howto_Width - Display_Width) / 2, 164, Display_Width,
+    Control_Set_Place(Help_HName, (Howto_Width - Display_Width) / 2, 213, Display_Width,
                       Editor_Tone_Name.height);
-    Help_HName.font = Editor_Tone_Name.font;
     Help_HName.text = "Waiting for action...";
 
     Place_Pos_Sw();

@@ -40,18 +40,18 @@ inline constexpr const char* Howto_First_Text =
 
 // Where things stand on the ground, in pixels. A bottom row is where the thumb stands at value 0.
 inline constexpr int Howto_Width = 330;
-inline constexpr int Howto_Height = 206;
+inline constexpr int Howto_Height = 254;
 inline constexpr int Pos_Sw_Left = 36;
-inline constexpr int Pos_Sw_Bottom_Row = 85;
+inline constexpr int Pos_Sw_Bottom_Row = 117;
 inline constexpr int Tune_Left = 89;
-inline constexpr int Tune_Top = 62;
+inline constexpr int Tune_Top = 95;
 inline constexpr int Slider_Left = 166;
-inline constexpr int Slider_Bottom_Row = 118;
+inline constexpr int Slider_Bottom_Row = 142;
 inline constexpr int Switch_Left = 216;
-inline constexpr int Switch_Row_Off = 65;  // what is on stands below
+inline constexpr int Switch_Row_Off = 97;  // what is on stands below
 inline constexpr int LED_Left = 286;
-inline constexpr int LED_Top = 42;
-inline constexpr int LED_Pitch = 22;
+inline constexpr int LED_Top = 61;
+inline constexpr int LED_Pitch = 26;
 
 // The common end of every change: keeps the value, shows it in HName and lets Timer_Display run from now.
 void Help_Show_Demo_Value(std::size_t demo, std::uint8_t value);
