@@ -290,8 +290,8 @@ TEST_F(Help_Is, beginning_with_no_topic_where_the_focused_controls_is_yet_to_com
 }
 
 TEST_F(Help_Is, not_led_astray_by_a_context_outside_the_topics) {
-    for (const std::int16_t context : {-1, 101, 32767}) {
-        Panel_Help_Context = context;
+    for (const int context : {-1, 101, 32767}) {
+        Panel_Help_Context = static_cast<std::int16_t>(context);
         Choose(Menu_Help_Search);
         EXPECT_EQ(Help_Window_Form.key_list.entries.size(), 23U);
         Help_Close_Asked();
