@@ -5,6 +5,7 @@
 #include "midi/out.h"
 #include "panels/keyboard.h"
 #include "panels/push_buttons.h"
+#include "sequencer/engine.h"
 #include "sequencer/sequence.h"
 
 namespace {

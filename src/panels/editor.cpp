@@ -4,6 +4,7 @@
 
 #include "desk/timers.h"
 #include "panels/editor_printing.h"
+#include "sequencer/sequence.h"
 #include "synth/tone.h"
 #include "synth/tuning.h"
 #include "synth/views.h"
@@ -142,6 +143,11 @@ void Arrange() {
     Show_All(true);
 }
 
+void Set_Sequencer_Symbols(Picture_Store start, Picture_Store stop) {
+    Editor_Seq_Start_Pic.picture = Picture_Of(start);
+    Editor_Seq_Stop_Pic.picture = Picture_Of(stop);
+}
+
 std::string Spoken_Value(const Control& control) {
     const Editor_Row* row = Editor_Row_Of(control);
     if (row == nullptr) return control.text;
@@ -260,6 +266,12 @@ void Editor_Install() {
     Panel_Apply_Tone = Apply_Tone;
     Editor_Arrange = Arrange;
     Editor_Conceal = Conceal;
+    Seq_Panel_Buttons_On = [] {
+        Set_Sequencer_Symbols(Picture_Store::Start_Enabled, Picture_Store::Stop_Enabled);
+    };
+    Seq_Panel_Buttons_Off = [] {
+        Set_Sequencer_Symbols(Picture_Store::Start_Disabled, Picture_Store::Stop_Disabled);
+    };
     Panel_Set_Knob("kn1", DCO1_Tune_Knopf,
                    [] { return 1.0 * Panel_Tune_From_Byte(Tone_Data[Parameter_DCO1_Tune]); });
     Panel_Set_Knob("kn2", DCO2_Tune_Knopf,
