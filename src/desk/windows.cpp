@@ -7,11 +7,13 @@ Window Editor = {.name = "Editor"};
 Window Editor_Juno = {.name = "Editor_Juno"};
 Window Patch = {.name = "Patch"};
 Window Sequencer = {.name = "Sequencer"};
+Window Oscillator = {.name = "Oscillator"};
 Window MIDI_Setup = {.name = "MIDI_Setup"};
 Window TName = {.name = "TName"};
 
 Flag_8 Patch_Window_Open = Flag_8::False;
 Flag_8 Seq_Window_Open = Flag_8::False;
+Flag_8 Osc_Window_Open = Flag_8::False;
 
 std::int16_t Patch_Left = 0;
 std::int16_t Patch_Top = 0;

@@ -8,6 +8,7 @@
 
 #include "desk/menus.h"
 #include "desk/windows.h"
+#include "oscwin/oscillator_window.h"
 #include "panels/editor.h"
 #include "panels/editor_printing.h"
 #include "panels/panel_window.h"
@@ -72,6 +73,7 @@ struct Child_Row {
 constexpr Child_Row Children[] = {
     {MIDI_Setup, Make<Setup_Window>},
     {TName, Make<TName_Window>},
+    {Oscillator, Make<Oscillator_Window>},
 };
 
 }  // namespace

@@ -1,11 +1,13 @@
 #include "shell/wiring.h"
 
 #include "desk/timers.h"
+#include "oscwin/oscwin.h"
 #include "panels/controls.h"
 #include "panels/editor.h"
 #include "setup/setup.h"
 #include "shell/commands.h"
 #include "shell/frame.h"
+#include "shell/osc_commands.h"
 #include "shell/settings_file.h"
 #include "shell/tone_commands.h"
 #include "shell/window_commands.h"
@@ -14,9 +16,11 @@ void Program_Wire() {
     Controls_Install();
     Editor_Install();
     Setup_Install();
+    Osc_Install();
     Commands_Install();
     Tone_Commands_Install();
     Name_Command_Install();
+    Osc_Commands_Install();
     Window_Commands_Install();
     Settings_Install();
     Timer_Display.tick = Main_Display_Tick;
