@@ -1,5 +1,6 @@
 #include "oscwin/curve_widget.h"
 
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -109,6 +110,9 @@ void Curve_Widget::paintEvent(QPaintEvent*) {
 }
 
 void Curve_Widget::mousePressEvent(QMouseEvent* event) {
+    // Else the desktop drops what the pointer did on the way when moves come faster than events are
+    // fetched, and a quick curve would turn into a straight line.
+    QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
     Guarded_Event([&] { Osc_Picture1_MouseDown(Held(event->buttons()), Column(*event), Row(*event)); });
 }
 
@@ -117,5 +121,6 @@ void Curve_Widget::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void Curve_Widget::mouseReleaseEvent(QMouseEvent*) {
+    QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, true);
     Guarded_Event(Osc_Picture1_MouseUp);
 }

@@ -27,9 +27,9 @@ struct Group {
 };
 
 constexpr std::array<Group, 5> Groups = {{
-    {"CURVE", 1.5, 2.5, 141.5, 189.5},
-    {"LEVEL", 144.5, 2.5, 198.5, 189.5},
-    {"TIME", 201.5, 2.5, 226.5, 189.5},
+    {"CURVE", 1.5, 2.5, 139.5, 189.5},
+    {"LEVEL", 142.5, 2.5, 196.5, 189.5},
+    {"TIME", 199.5, 2.5, 226.5, 189.5},
     {"TARGET", 229.5, 2.5, 392.5, 49.5},
     {"SHAPE", 229.5, 52.5, 392.5, 189.5},
 }};
@@ -111,9 +111,9 @@ Osc_Place Grown(const Osc_Place& place, int by) {
 }  // namespace
 
 const std::array<Osc_Rail, Osc_Rail_Count> Osc_Rails = {{
-    {"VScrollA", "Amplitude", "AMP", 158},
-    {"VScrollDelta", "Offset", "OFFS", 185},
-    {"Osc_Time", "Milliseconds a step", "MS", 214},
+    {"VScrollA", "Amplitude", "AMP", 156},
+    {"VScrollDelta", "Offset", "OFFS", 183},
+    {"Osc_Time", "Milliseconds a step", "MS", 213},
 }};
 
 Osc_Place Osc_Rail_Place(const Osc_Rail& rail) {
@@ -141,7 +141,7 @@ Printing Osc_Printing() {
                                   Ink::Frame,
                                   true});
         printing.texts.push_back(
-            {group.heading, {group.left + 4.5, group.top + 11.5}, Align::Left, Heading_Size, Ink::Heading});
+            {group.heading, {group.left + 3.5, group.top + 11.5}, Align::Left, Heading_Size, Ink::Heading});
     }
     for (const Osc_Rail& rail : Osc_Rails) Print_Rail(printing, rail);
     Print_Drawings(printing);

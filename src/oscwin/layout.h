@@ -16,7 +16,7 @@ struct Osc_Place {
 
 inline constexpr Osc_Place Osc_Picture1_Place = {8, 24, 127, 128};
 inline constexpr Osc_Place Osc_Combo1_Place = {234, 21, 153, 22};
-inline constexpr Osc_Place Osc_Label2_Place = {92, 163, 43, 18};
+inline constexpr Osc_Place Osc_Label2_Place = {92, 163, 42, 18};
 
 // A scroll bar with its number: the middle column of both.
 struct Osc_Rail {
