@@ -15,48 +15,50 @@ struct Place {
     int y;
 };
 
-// Where the pointer was at the last event of this press.
+// Where the pointer was at the last event of this press, and whether that event drew.
 Place Last_Place = {};
+bool Last_Place_Drawn = false;
 
 // A point takes 7 columns; point 2 takes three more, from those of point 3. The last point takes all that
-// is left. No point lies to the left of the picture.
-constexpr int Last_Band_Left = 119;
+// is left. No point lies to the left of the picture: -1.
+int Point_At(int x) {
+    constexpr int Last_Point = static_cast<int>(Osc_Count) - 1;
+    if (x < 0) return -1;
+    if (x >= 14 && x <= 23) return 2;
+    return std::min(x / Osc_Point_Width, Last_Point);
+}
 
-bool Point_At(int x, std::size_t& point) {
-    if (x < 0) return false;
-    if (x >= 14 && x <= 23) {
-        point = 2;
-    } else {
-        point = static_cast<std::size_t>(std::min(x, Last_Band_Left) / Osc_Point_Width);
-    }
-    return true;
+int Middle_Of(int point) {
+    return point * Osc_Point_Width + Osc_Point_Width / 2;
 }
 
 void Set_Aside(Osc_Line& line) {
     line = {Aside_Left, Osc_Middle_Row, Aside_Right, Osc_Middle_Row};
 }
 
-void Draw_Row(Place place) {
-    const int row = std::clamp<int>(place.y, 0, Osc_Bottom_Row);
-    Osc_Label2 = std::to_string(Osc_Bottom_Row - row);
-    std::size_t point = 0;
-    if (Point_At(place.x, point)) Osc_Line1[point].y1 = Osc_Line1[point].y2 = row;
+void Set_Row(int point, int y) {
+    if (point < 0) return;
+    Osc_Line& level = Osc_Line1[static_cast<std::size_t>(point)];
+    level.y1 = level.y2 = std::clamp<int>(y, 0, Osc_Bottom_Row);
 }
 
-// Every column of the picture between the two places, in the order in which the pointer crossed them.
-void Draw_Path(Place from, Place to) {
-    constexpr int Leftmost = 0;
-    constexpr int Rightmost = Last_Band_Left;
-    const int step = to.x < from.x ? -1 : 1;
-    const int first = std::clamp(from.x, Leftmost, Rightmost);
-    const int end = std::clamp(to.x, Leftmost, Rightmost);
-    if (to.x != from.x) {
-        const double slope = (1.0 * to.y - from.y) / (1.0 * to.x - from.x);
-        for (int x = first; x != end; x += step) {
-            Draw_Row({x, static_cast<int>(Round_Half_Even(from.y + slope * (1.0 * x - from.x)))});
-        }
-    }
-    Draw_Row(to);
+// The points between two places, which a quick pointer has crossed without an event of their own: each gets
+// the row at which its middle was crossed.
+void Draw_Way(Place from, Place to) {
+    const int first = Point_At(from.x);
+    const int last = Point_At(to.x);
+    if (first == last) return;
+    const int step = last < first ? -1 : 1;
+    const double slope = (1.0 * to.y - from.y) / (1.0 * to.x - from.x);
+    for (int point = first + step; point != last; point += step)
+        Set_Row(point, static_cast<int>(Round_Half_Even(from.y + slope * (Middle_Of(point) - from.x))));
+}
+
+void Draw(Place from, bool from_drawn, Place to) {
+    if (!from_drawn) Set_Row(Point_At(from.x), from.y);
+    Draw_Way(from, to);
+    Set_Row(Point_At(to.x), to.y);
+    Osc_Label2 = std::to_string(Osc_Bottom_Row - std::clamp<int>(to.y, 0, Osc_Bottom_Row));
 }
 
 }  // namespace
@@ -101,13 +103,19 @@ void Osc_Draw_Stairs() {
 
 void Osc_Picture1_MouseDown(unsigned /*buttons*/, int x, int y) {
     Last_Place = {x, y};
+    Last_Place_Drawn = false;
 }
 
 void Osc_Picture1_MouseMove(unsigned buttons, int x, int y) {
     const Place from = Last_Place;
+    const bool from_drawn = Last_Place_Drawn;
     Last_Place = {x, y};
+    Last_Place_Drawn = false;
     if (buttons == 0 || Osc_VScrollA.value == 0) return;
-    if (buttons == Osc_Left_Button) Draw_Path(from, Last_Place);
+    if (buttons == Osc_Left_Button) {
+        Draw(from, from_drawn, Last_Place);
+        Last_Place_Drawn = true;
+    }
     for (std::size_t i = 0; i < Osc_Count; ++i) Osc_Out[i] = To_Int16(Osc_Line1[i].y1);
     Osc_Work_Back();
     Osc_Draw_Stairs();

@@ -42,8 +42,8 @@ void Osc_Draw_Stairs();
 enum Osc_Button : unsigned { Osc_Left_Button = 1, Osc_Right_Button = 2, Osc_Middle_Button = 4 };
 
 // The pointer over the picture, in pixels of the picture; it may lie outside. Moving with the left button
-// alone draws, and every point that the pointer has crossed since the last event gets the row at which it
-// was crossed, however far apart the two events are. Nothing is drawn while the amplitude is 0. What is
-// drawn is not sent at once; it goes out at the next steps.
+// alone draws: the point at the pointer, and every point that it has crossed since the last event, however
+// far apart the two are. The point of the press counts as crossed when the pointer moves on. Nothing is
+// drawn while the amplitude is 0. What is drawn is not sent at once; it goes out at the next steps.
 void Osc_Picture1_MouseDown(unsigned buttons, int x, int y);
 void Osc_Picture1_MouseMove(unsigned buttons, int x, int y);

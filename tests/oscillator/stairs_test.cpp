@@ -165,7 +165,7 @@ TEST_F(The_Stairs, take_a_press_alone_for_no_drawing) {
 
 TEST_F(The_Stairs, leave_out_no_point_that_the_pointer_has_crossed) {
     Draw(0, 0, 125, 125);
-    EXPECT_EQ(Out(), (Rows{6, 13, 23, 27, 34, 41, 48, 55, 62, 69, 76, 83, 90, 97, 104, 111, 118, 125}));
+    EXPECT_EQ(Out(), (Rows{0, 10, 17, 24, 31, 38, 45, 52, 59, 66, 73, 80, 87, 94, 101, 108, 115, 125}));
     Draw(125, 20, 0, 20);
     EXPECT_EQ(Out(), Rows(18, 20));
 }
@@ -176,6 +176,13 @@ TEST_F(The_Stairs, leave_out_no_point_when_the_pointer_comes_from_outside) {
     EXPECT_EQ(Out(), Rows(18, 30));
     Draw(1000, 40, -1000, 40);
     EXPECT_EQ(Out(), Rows(18, 40));
+}
+
+TEST_F(The_Stairs, keep_what_each_event_has_drawn) {
+    Osc_Picture1_MouseDown(Osc_Left_Button, 3, 10);
+    for (int point = 0; point < 18; ++point)
+        Osc_Picture1_MouseMove(Osc_Left_Button, 7 * point + 4, 7 * point);
+    EXPECT_EQ(Out(), (Rows{0, 7, 14, 21, 28, 35, 42, 49, 56, 63, 70, 77, 84, 91, 98, 105, 112, 119}));
 }
 
 TEST_F(The_Stairs, keep_apart_what_two_presses_draw) {
