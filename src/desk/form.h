@@ -1,5 +1,5 @@
-// The stock controls of windows, as records: drop-down lists, check boxes and scroll bars. The rules fill and read them,
-// the toolkit's windows show them and report what the user does.
+// The stock controls of windows, as records: drop-down lists, check boxes and scroll bars. The rules fill
+// and read them, the toolkit's windows show them and report what the user does.
 #pragma once
 
 #include <string>

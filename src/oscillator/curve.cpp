@@ -2,10 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <random>
 
 #include "platform/numbers.h"
-#include "synth/random_tone.h"
+#include "platform/random.h"
 
 namespace {
 
@@ -21,14 +20,6 @@ constexpr int Large_Step = 16;
 // The running value of the presets. It stays behind a preset that uses it: the random preset begins with
 // what the one before has left.
 double Wave_Y = 0;
-
-// Not seeded: the first random curve of each run is the same.
-std::mt19937 Generator;
-
-double Random() {
-    if (Random_Number.Filled()) return Random_Number();
-    return std::uniform_real_distribution<double>()(Generator);
-}
 
 void Two_Teeth() {
     Wave_Y = High;
@@ -91,7 +82,7 @@ void Free_Drawing() {}
 void Random_Points() {
     for (std::int16_t& point : Osc_Points) {
         point = To_Int16(Wave_Y);
-        Wave_Y = Osc_Bottom_Row - Random() * Osc_Bottom_Row;
+        Wave_Y = Osc_Bottom_Row - Random_Next() * Osc_Bottom_Row;
     }
 }
 

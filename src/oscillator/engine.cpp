@@ -54,7 +54,9 @@ void Osc_Tick() {
     Osc_TimeLine = Osc_Step * Osc_Point_Width;
     const auto value = static_cast<std::int16_t>(Osc_Bottom_Row - Osc_Out[Osc_Step]);
     Osc_Label2 = std::to_string(value);
-    if (Osc_Param == Osc_Target_Notes) {
+    if (MIDI_Out_Closing) {
+        // A note started now would sound on behind the close.
+    } else if (Osc_Param == Osc_Target_Notes) {
         // No note is ended: they pile up until somebody sends all notes off.
         MIDI_SendNote(value, Note_Velocity);
     } else {

@@ -13,7 +13,6 @@
 #include "oscwin/oscwin.h"
 #include "oscwin/rail_widget.h"
 #include "panels/control_widget.h"
-#include "panels/pictures_qt.h"
 #include "platform/gate.h"
 
 namespace {
@@ -103,9 +102,8 @@ void Oscillator_Window::Add_Controls() {
     }
 }
 
-// A tool window floats over the panel and leaves the menu bar's shortcuts alive.
-Oscillator_Window::Oscillator_Window(QWidget* parent) : Child_Window(Oscillator, parent) {
-    setWindowFlags(Qt::Tool);
+Oscillator_Window::Oscillator_Window(QMainWindow* parent)
+    : Child_Window(Oscillator, parent), ground_(Osc_Printing()) {
     curve_ = new Curve_Widget(this);
     curve_->setGeometry(Rect(Osc_Picture1_Place));
     targets_ = Target_List();
@@ -126,6 +124,7 @@ Oscillator_Window::Oscillator_Window(QWidget* parent) : Child_Window(Oscillator,
 void Oscillator_Window::Show_Contents() {
     for (Control_Widget* widget : controls_) widget->Show_Changes();
     for (Rail_Widget* rail : rails_) rail->Show_Changes();
+    // The entries never change, and a list of 27 is not looked through at each step.
     if (targets_->currentIndex() != Osc_Combo1.selected) targets_->setCurrentIndex(Osc_Combo1.selected);
     amplitude_->setText(QString::fromStdString(Osc_Label4));
     offset_->setText(QString::fromStdString(Osc_Label3));
@@ -155,22 +154,17 @@ void Oscillator_Window::Close_Asked() {
     Window_Unload(Oscillator);
 }
 
-// No dialog: Escape closes nothing here, it would throw a drawn curve away.
+// Escape closes nothing here, it would throw a drawn curve away: only the close box closes.
 void Oscillator_Window::keyPressEvent(QKeyEvent* event) {
-    if (event->key() != Qt::Key_Escape) Child_Window::keyPressEvent(event);
+    event->ignore();
 }
 
 void Oscillator_Window::paintEvent(QPaintEvent*) {
-    if (ground_.isNull() || ground_.devicePixelRatio() != devicePixelRatioF()) {
-        ground_ = QPixmap(size() * devicePixelRatioF());
-        ground_.setDevicePixelRatio(devicePixelRatioF());
-        ground_.fill(Ink_Colour(Ink::Ground));
-        QPainter print(&ground_);
-        Paint_Printing(print, Osc_Printing());
-        print.setPen(QPen(Glass_Edge, 1));
-        print.setBrush(Glass);
-        for (const Osc_Place& glass : Osc_Glasses())
-            print.drawRoundedRect(QRectF(Rect(glass)).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
-    }
-    QPainter(this).drawPixmap(0, 0, ground_);
+    ground_.Paint(*this);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(Glass_Edge, 1));
+    painter.setBrush(Glass);
+    for (const Osc_Place& glass : Osc_Glasses())
+        painter.drawRoundedRect(QRectF(Rect(glass)).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
 }

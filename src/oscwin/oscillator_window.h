@@ -2,12 +2,12 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <QPixmap>
 #include <QTimer>
 #include <vector>
 
 #include "desk/child_window.h"
 #include "oscwin/layout.h"
+#include "panels/pictures_qt.h"
 
 class Control_Widget;
 class Curve_Widget;
@@ -18,7 +18,7 @@ struct Scroll_Bar;
 
 class Oscillator_Window : public Child_Window {
   public:
-    explicit Oscillator_Window(QWidget* parent);
+    explicit Oscillator_Window(QMainWindow* parent);
 
   protected:
     void Show_Contents() override;
@@ -34,7 +34,7 @@ class Oscillator_Window : public Child_Window {
     void Add_Controls();
     void Show_Running();
 
-    QPixmap ground_;  // printed once for each device pixel ratio
+    Printed_Ground ground_;
     Curve_Widget* curve_;
     QComboBox* targets_;
     std::vector<Control_Widget*> controls_;

@@ -79,7 +79,8 @@ void Load() {
     Oscillator.caption = "Oscillator";
     Oscillator.width = Osc_Window_Width;
     Oscillator.height = Osc_Window_Height;
-    Window_Centre_Over_Main(Oscillator);
+    Oscillator.left = (Editor.width - Osc_Window_Width) / 2;
+    Oscillator.top = (Editor.height - Osc_Window_Height) / 2;
     Osc_Window_Open = Flag_8::True;
     Osc_Curve_Reset();
     Osc_Lay_Out();

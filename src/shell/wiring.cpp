@@ -4,21 +4,27 @@
 #include "oscwin/oscwin.h"
 #include "panels/controls.h"
 #include "panels/editor.h"
+#include "sequencer/engine.h"
+#include "seqwin/seqwin.h"
 #include "setup/setup.h"
 #include "shell/commands.h"
 #include "shell/frame.h"
 #include "shell/osc_commands.h"
+#include "shell/sequence_commands.h"
 #include "shell/settings_file.h"
 #include "shell/tone_commands.h"
 #include "shell/window_commands.h"
 
 void Program_Wire() {
     Controls_Install();
+    Sequencer_Install();
     Editor_Install();
+    Seqwin_Install();
     Setup_Install();
     Osc_Install();
     Commands_Install();
     Tone_Commands_Install();
+    Sequence_Commands_Install();
     Name_Command_Install();
     Osc_Commands_Install();
     Window_Commands_Install();

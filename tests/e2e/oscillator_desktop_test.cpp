@@ -9,11 +9,10 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-// The window Oscillator stands in the middle of the frame of a first start; places in it.
-constexpr int Window_Left = (541 - 394) / 2;
-constexpr int Window_Top = (508 - 192) / 2;
+// The window Oscillator stands in the middle of the panel.
+constexpr int Window_Left = (528 - 394) / 2;
+constexpr int Window_Top = (456 - 192) / 2;  // below the menu bar
 constexpr int Picture_Left = Window_Left + 8;
-constexpr int Picture_Top = Window_Top + 24;
 
 constexpr int Points = 18;
 
@@ -27,8 +26,8 @@ std::string Cutoff(int value) {
 
 class Oscillator_On_The_Desktop : public Desktop {
   protected:
-    void In_Window(int x, int y) { Move_To(Window_Left + x, Window_Top + y); }
-    void In_Picture(int x, int y) { Move_To(Picture_Left + x, Picture_Top + y); }
+    void In_Window(int x, int y) { Move_To(Window_Left + x, window_top_ + y); }
+    void In_Picture(int x, int y) { Move_To(Picture_Left + x, picture_top_ + y); }
     void Click_In_Window(int x, int y) {
         In_Window(x, y);
         Xdotool({"click", "1"});
@@ -39,6 +38,8 @@ class Oscillator_On_The_Desktop : public Desktop {
         Start_Jack();
         Start_Program("[MIDI]\nOutput=witness:input\nInput=sender:out\n");
         Wait_For_Main_Window();
+        window_top_ = Menu_Height() + Window_Top;
+        picture_top_ = window_top_ + 24;
         Press_Key("ctrl+i");
         ASSERT_TRUE(Wait_For_Window("^Oscillator$"));
         std::this_thread::sleep_for(300ms);
@@ -62,6 +63,9 @@ class Oscillator_On_The_Desktop : public Desktop {
 
     void Start_Playing() { Click_In_Window(20, 172); }
     void Stop_Playing() { Click_In_Window(46, 172); }
+
+    int window_top_ = 0;
+    int picture_top_ = 0;
 };
 
 TEST_F(Oscillator_On_The_Desktop, plays_a_drawn_curve_into_the_cutoff_and_stops) {
@@ -109,8 +113,8 @@ TEST_F(Oscillator_On_The_Desktop, draws_every_point_that_a_fast_pointer_crosses)
     // The whole way in one go.
     In_Picture(1, 100);
     Xdotool({"mousedown", "1", "mousemove", std::to_string(Picture_Left + 62),
-             std::to_string(Picture_Top + 20), "mousemove", std::to_string(Picture_Left + 125),
-             std::to_string(Picture_Top + 100), "mouseup", "1"});
+             std::to_string(picture_top_ + 20), "mousemove", std::to_string(Picture_Left + 125),
+             std::to_string(picture_top_ + 100), "mouseup", "1"});
     Start_Playing();
     const Lines heard = Witnessed(Points);
     ASSERT_GE(heard.size(), static_cast<std::size_t>(Points));

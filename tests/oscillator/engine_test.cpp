@@ -363,6 +363,22 @@ TEST_F(The_Oscillator, tells_a_refusing_port_once_and_goes_on_in_silence) {
     Osc_Start_Click();
 }
 
+TEST_F(The_Oscillator, is_silent_while_the_port_closes_and_opens_it_again_behind_that) {
+    Osc_Combo1_Click(Notes);
+    Osc_Start_Click();
+    Sent();
+    Ports.close_results = {Port_Still_Playing, Port_Still_Playing};
+    At_Next_Turn([] { Advance(1000ms); });
+    MIDI_Out_Close();
+    EXPECT_EQ(Osc_Step, 3) << "it steps on";
+    EXPECT_EQ(Sent(), Lines{"B0 7B 00"}) << "no note that nobody ends";
+    EXPECT_FALSE(MIDI_Out_Closing);
+    Osc_Combo1_Click(VCF_Cutoff);
+    Advance(500ms);
+    EXPECT_EQ(Sent(), Lines{Head + "22 35 F7"});
+    EXPECT_NE(MIDI_Out_Handle, Port_Closed);
+}
+
 TEST_F(The_Oscillator, is_silent_behind_a_port_that_could_not_be_opened) {
     Ports.open_result = Port_Gone;
     Expect_Box("MIDI_Out_Open*: (" + std::to_string(Port_Gone) + ") " + Port_Error_Text(Port_Gone));

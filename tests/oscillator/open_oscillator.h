@@ -9,7 +9,7 @@
 #include "oscillator/engine.h"
 #include "oscillator/stairs.h"
 #include "oscwin/oscwin.h"
-#include "synth/random_tone.h"
+#include "platform/random.h"
 
 using Lines = std::vector<std::string>;
 using Rows = std::vector<int>;

@@ -24,6 +24,7 @@ const std::map<std::string, int> Floors = {
     {"filedlg",    6},
     {"help",       6},
     {"oscwin",     6},
+    {"seqwin",     6},
     {"setup",      6},
     {"tname",      6},
     {"shell",      7},

@@ -18,7 +18,7 @@
 #include "oscwin/oscwin.h"
 #include "panels/pictures_qt.h"
 #include "platform/gate.h"
-#include "synth/random_tone.h"
+#include "platform/random.h"
 #include "windows/screen.h"
 
 namespace {
