@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Takes the pictures of the documents from the real program: tools/picture.sh BUILD-FOLDER
 # Starts a virtual screen and a JACK server with a device each way, plays a little on the panel, and writes
-# docs/panel.png, docs/panel@2x.png and docs/setup.png.
+# docs/panel.png, docs/panel@2x.png, docs/setup.png and docs/oscillator.png.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 build=$(cd "$1" && pwd)
@@ -67,9 +67,45 @@ shoot() {
     wait $program 2>/dev/null || true
 }
 
+# A place in the oscillator's window.
+oscillator_at() {
+    echo $(((67 + $1) * scale)) $(((132 + menu + $2) * scale))
+}
+
+# Draws a curve by hand, plays it, and shoots the window while it plays.
+shoot_oscillator() {
+    scale=2
+    menu=22
+    QT_SCALE_FACTOR=$scale "$folder/tonebench" &
+    local program=$!
+    sleep 2
+    xdotool key ctrl+i
+    sleep 1
+    xdotool mousemove $(oscillator_at 310 32) click 1
+    sleep 0.5
+    xdotool key v v Return # VCF Resonance
+    xdotool mousemove $(oscillator_at 9 110) mousedown 1
+    for place in 16,96 23,80 30,64 37,52 44,46 51,48 58,58 65,74 72,92 79,104 86,106 93,98 100,84 107,70 114,60 121,56 \
+        131,58; do
+        xdotool mousemove $(oscillator_at "${place%,*}" "${place#*,}")
+    done
+    xdotool mouseup 1
+    xdotool mousemove $(oscillator_at 156 94) click 1
+    xdotool key Page_Up Up Up Up
+    xdotool mousemove $(oscillator_at 213 94) click 1
+    xdotool key Page_Down Page_Down Page_Down Page_Down
+    xdotool mousemove $(oscillator_at 20 172) click 1
+    sleep 1.9
+    import -window root -crop $((394 * scale))x$((192 * scale))+$((67 * scale))+$(((132 + menu) * scale)) +repage "$1"
+    kill $program
+    wait $program 2>/dev/null || true
+}
+
 shoot 1 "$docs/panel.png"
 sleep 4 # the server is busy behind a client that was killed
 shoot 2 "$docs/panel@2x.png"
+sleep 4
+shoot_oscillator "$docs/oscillator.png"
 sleep 4
 
 rm "$folder/Tonebench.INI"

@@ -205,7 +205,6 @@ TEST_F(Midi_Port_On_Jack, a_flood_holds_the_close_up_by_what_the_buffers_hold_an
     const auto begin = Clock::now();
     EXPECT_EQ(Closed(handle), Port_Ok);
     EXPECT_LT(Clock::now() - begin, 2s);
-    EXPECT_EQ(Heard(2000).size(), 2000U);
 }
 
 TEST_F(Midi_Port_On_Jack, nothing_is_lost_when_the_port_closes_right_after_the_last_message) {
