@@ -9,6 +9,7 @@
 
 #include "desk/menus.h"
 #include "desk/windows.h"
+#include "oscwin/oscillator_window.h"
 #include "panels/editor.h"
 #include "panels/editor_printing.h"
 #include "panels/juno_panel.h"
@@ -88,6 +89,7 @@ constexpr Child_Row Children[] = {
     {MIDI_Setup, Make<Setup_Window>},
     {TName, Make<TName_Window>},
     {Sequencer, Make<Sequencer_Window>},
+    {Oscillator, Make<Oscillator_Window>},
 };
 
 }  // namespace

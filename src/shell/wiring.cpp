@@ -1,6 +1,7 @@
 #include "shell/wiring.h"
 
 #include "desk/timers.h"
+#include "oscwin/oscwin.h"
 #include "panels/controls.h"
 #include "panels/editor.h"
 #include "panels/juno_panel.h"
@@ -10,6 +11,7 @@
 #include "shell/commands.h"
 #include "shell/display_check.h"
 #include "shell/frame.h"
+#include "shell/osc_commands.h"
 #include "shell/sequence_commands.h"
 #include "shell/settings_file.h"
 #include "shell/tone_commands.h"
@@ -28,10 +30,12 @@ void Program_Wire() {
     Juno_Show_Name = Juno_Display_Tick;
     Seqwin_Install();
     Setup_Install();
+    Osc_Install();
     Commands_Install();
     Tone_Commands_Install();
     Sequence_Commands_Install();
     Name_Command_Install();
+    Osc_Commands_Install();
     Window_Commands_Install();
     Settings_Install();
     Timer_Display.tick = Main_Display_Tick;
