@@ -65,6 +65,8 @@ void Child_Window::moveEvent(QMoveEvent*) {
     if (isVisible()) Take_Place();
 }
 
+// A locked window stays, also where the desktop would let its close box through.
 void Child_Window::reject() {
+    if (!isEnabled()) return;
     Guarded_Event([this] { Close_Asked(); });
 }

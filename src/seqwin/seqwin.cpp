@@ -114,13 +114,15 @@ void Stop_Click() {
 void New_Pressed() {
     Stop_Click();
     Push_New();
-    if (File_Seq_New_Chosen()) Lift_New();
+    File_Seq_New_Chosen(Lift_New);
 }
 
 void Key_Pressed_Down(int index, Mouse_Button button) {
     Give_Key_Picture(index, Pressed);
     if (MIDI_Enabled != 1) return;
     MIDI_Out_Open();
+    // An open that failed has switched MIDI off and had its box; a note would only give a second one.
+    if (MIDI_Enabled != 1) return;
     if (button == Mouse_Button::Left) {
         Seq_SendNote(static_cast<std::int16_t>(Seq_Base_Note + index), Key_Velocity);
     } else if (button == Mouse_Button::Right) {

@@ -104,10 +104,7 @@ void Seq_Key_Names::paintEvent(QPaintEvent*) {
 // -- a direction -----------------------------------------------------------------------------------------
 
 Seq_Direction_Widget::Seq_Direction_Widget(const Seq_Direction& record, QWidget* parent)
-    : QAbstractButton(parent),
-      record_(record),
-      printing_(Seq_Direction_Printing(record.mode)),
-      shown_(record.selected) {
+    : QAbstractButton(parent), record_(record), printing_(Seq_Direction_Printing(record.mode)) {
     setObjectName(QString("Seq_Directions_%1").arg(static_cast<int>(record.mode)));
     setAccessibleName(Seq_Direction_Name(record.mode));
     setCheckable(true);

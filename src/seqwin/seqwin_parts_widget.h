@@ -63,5 +63,4 @@ class Seq_Direction_Widget : public QAbstractButton {
   private:
     const Seq_Direction& record_;
     Printing printing_;
-    bool shown_;
 };

@@ -44,8 +44,7 @@ void Print_Step_Numbers(Printing& printing) {
         {"STEP", {Seq_Matrix_Left - 4, Base_Line}, Align::Right, Digit_Size, Ink::Faint});
 }
 
-// -- directions
-// --------------------------------------------------------------------------------------------
+// -- directions -----------------------------------------------------------------------------------------
 
 // The symbols' corners in pixels of a box of 24 by 12.
 struct Direction_Row {

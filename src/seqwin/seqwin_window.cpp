@@ -1,5 +1,6 @@
 #include "seqwin/seqwin_window.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QScrollBar>
@@ -18,6 +19,8 @@ QComboBox* Sequencer_Window::List(const char* name, const char* spoken, QRect pl
     list->setObjectName(name);
     list->setAccessibleName(spoken);
     list->setGeometry(place);
+    // Makes the list that drops down, so that the window sees the keys there too.
+    list->view();
     connect(list, &QComboBox::activated, [changed](int index) { Guarded_Event([&] { changed(index); }); });
     return list;
 }

@@ -266,7 +266,7 @@ TEST_F(Patch_Controls_By_Hand, turn_the_detune_by_key_on_body_and_dot_alike) {
     };
     const Row rows[] = {{Key_Up, 64, 65, "1"},         {Key_Right, 64, 65, "1"},  {Key_Keypad_Plus, 64, 65, "1"},
                         {Key_Down, 64, 63, "0"},       {Key_Left, 64, 63, "0"},   {Key_Keypad_Minus, 64, 63, "0"},
-                        {Key_Page_Up, 64, 74, "8"},    {Key_Page_Down, 64, 54, "-8"},
+                        {Key_Page_Up, 64, 74, "8"},    {Key_Page_Down, 64, 54, "-7"},
                         {Key_Home, 64, 127, "50"},     {Key_End, 64, 0, "-50"},   {Key_0, 90, 63, "0"},
                         {Key_Keypad_0, 90, 63, "0"},   {Key_Up, 127, 127, "50"},  {Key_Down, 0, 0, "-50"},
                         {Key_Page_Up, 125, 127, "50"}, {Key_Page_Down, 3, 0, "-50"}, {65, 64, 64, "0"}};
