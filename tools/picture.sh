@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Takes the pictures of the documents from the real program: tools/picture.sh BUILD-FOLDER
 # Starts a virtual screen and a JACK server with a device each way, plays a little on the panel, and writes
-# docs/panel.png, docs/panel@2x.png and docs/setup.png.
+# docs/panel.png, docs/panel@2x.png, docs/patch.png and docs/setup.png. No menu opens the MKS-70's patch window;
+# its picture, docs/patch_mks70.png, is what the windows' tests leave in the build folder.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 build=$(cd "$1" && pwd)
@@ -71,6 +72,27 @@ shoot 1 "$docs/panel.png"
 sleep 4 # the server is busy behind a client that was killed
 shoot 2 "$docs/panel@2x.png"
 sleep 4
+
+# The Patch window over the panel, at its upper left corner.
+QT_SCALE_FACTOR=1 "$folder/tonebench" &
+program=$!
+sleep 2
+scale=1
+xdotool key ctrl+p
+sleep 0.5
+touch_control 28 120 Page_Up 4   # portamento time
+touch_control 28 155 Page_Up 0   # portamento on, by the press
+touch_control 94 120 Page_Up 2
+touch_control 125 70 Up 2        # range 4
+touch_control 159 84 Page_Up 0   # unison 2
+touch_control 229 39 Page_Up 0   # vibrato
+touch_control 175 150 Page_Up 1  # detune
+sleep 0.2
+import -window root -crop 296x196+0+$menu +repage "$docs/patch.png"
+kill $program
+wait $program 2>/dev/null || true
+sleep 4
+cp "$build/patch_mks70.png" "$docs/patch_mks70.png"
 
 rm "$folder/Tonebench.INI"
 "$folder/tonebench" &

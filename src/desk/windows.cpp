@@ -83,7 +83,7 @@ void Window_Centre_Over_Main(Window& window) {
 
 std::vector<Window*> Windows_Inside() {
     std::vector<Window*> open;
-    for (Window* window : {&Editor, &Editor_Juno, &Patch, &Sequencer}) {
+    for (Window* window : {&Editor, &Editor_Juno, &Patch, &Patch_MKS70, &Sequencer}) {
         if (window->loaded && window->visible) open.push_back(window);
     }
     return open;

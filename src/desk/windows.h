@@ -56,7 +56,8 @@ extern Window TName;
 extern Flag_8 Patch_Window_Open;
 extern Flag_8 Seq_Window_Open;
 
-// Remembered places, in twips. That of Patch is the place of whichever of the two patch windows closed last.
+// Remembered places, in twips. That of Patch is the place of whichever of the two patch windows closed
+// last.
 extern std::int16_t Patch_Left;
 extern std::int16_t Patch_Top;
 extern std::int16_t Seq_Window_Left;

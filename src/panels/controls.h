@@ -38,7 +38,8 @@ struct Control {
     std::string text = {};  // of a text field; ANSI
     std::string font = {};  // of a text field; empty is the default font
     bool focusable = false;
-    bool takes_tab = false;  // the TAB key is a key like any other here, and does not move the focus by itself
+    bool takes_tab =
+        false;  // the TAB key is a key like any other here, and does not move the focus by itself
     bool visible = true;
     bool enabled = true;
     std::int16_t help_context = 0;
@@ -80,7 +81,8 @@ void Panel_Blink();
 void Panel_Blink_Tick();
 
 // Place the dot of the focused knob for the value in Panel_Scratch_Real; of a knob named by its kind for
-// the value in its record, which loads the window that the dot stands on. Value 0 is straight up, positive values go clockwise.
+// the value in its record, which loads the window that the dot stands on. Value 0 is straight up, positive
+// values go clockwise.
 void Panel_Knob_Dot(int centre_left, int centre_top, double degrees_a_unit);
 void Panel_Knob_Show(const std::string& kind, int centre_top, int centre_left, double degrees_a_unit);
 

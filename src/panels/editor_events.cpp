@@ -41,7 +41,8 @@ void Knob_Drag(const Editor_Row& row, double pointer_row) {
         Panel_Knob_Dot(Dot_Centre_Left, Dot_Centre_Top, Degrees_A_Semitone);
         Editor_Set_Value(parameter, Panel_Tune_To_Byte(Panel_Scratch_Real));
     } else {
-        const double byte = Clamped(Tone_Byte(parameter) + Panel_Knob_Movement(pointer_row), 0, Highest_Value);
+        const double byte =
+            Clamped(Tone_Byte(parameter) + Panel_Knob_Movement(pointer_row), 0, Highest_Value);
         Editor_Set_Value(parameter, Narrow<std::uint8_t>(byte));
         Panel_Scratch_Real = Panel_Fine_From_Byte(Tone_Byte(parameter));
         Panel_Knob_Dot(Dot_Centre_Left, Dot_Centre_Top, Degrees_A_Fine_Unit);

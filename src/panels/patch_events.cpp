@@ -69,8 +69,9 @@ void Send_Focus(Control& control) {
     Focus_Gained(control);
 }
 
-// The key that leaves a group backward: its code is the number of the keys held, with the digit 9 behind it.
-// So it is 19 with Shift, 29 with Ctrl, 49 with Alt, and never TAB itself, which goes forward before this.
+// The key that leaves a group backward: its code is the number of the keys held, with the digit 9 behind
+// it. So it is 19 with Shift, 29 with Ctrl, 49 with Alt, and never TAB itself, which goes forward before
+// this.
 bool Goes_Back(int key) {
     return key == Panel_Shift_State * 10 + 9;
 }
@@ -237,7 +238,8 @@ void Patch_Switch_Place() {
     // The bands have gaps here; a value in a gap leaves the thumb on its row.
     const int value = Patch_Data[Patch_Pitch_Bend_Range];
     const bool in_gap = value % 32 > 15;
-    if (!in_gap && value <= 127) Window_Set_Active_Top(Patch, Bend_Range.bottom_row - value / 32 * Switch_Pitch);
+    if (!in_gap && value <= 127)
+        Window_Set_Active_Top(Patch, Bend_Range.bottom_row - value / 32 * Switch_Pitch);
 }
 
 void Patch_Toggle(Control& control, Direction direction, int top_row, int bottom_row, std::size_t number) {

@@ -87,11 +87,8 @@ constexpr Panel_Row Panels[] = {
 
 // The windows over the main one.
 constexpr Child_Row Children[] = {
-    {MIDI_Setup, Make<Setup_Window>},
-    {TName, Make<TName_Window>},
-    {Patch, Make<Patch_Window>},
-    {Patch_MKS70, Make<MKS_Patch_Window>},
-    {Sequencer, Make<Sequencer_Window>},
+    {MIDI_Setup, Make<Setup_Window>},      {TName, Make<TName_Window>},         {Patch, Make<Patch_Window>},
+    {Patch_MKS70, Make<MKS_Patch_Window>}, {Sequencer, Make<Sequencer_Window>},
 };
 
 }  // namespace

@@ -1,5 +1,5 @@
-// Works the controls of any panel by their names, as its window would: the language of stage.h for the panels
-// that come and go.
+// Works the controls of any panel by their names, as its window would: the language of stage.h for the
+// panels that come and go.
 #pragma once
 
 #include <string>

