@@ -4,6 +4,7 @@
 #include "fakes/stage.h"
 #include "midi/out.h"
 #include "panels/patch.h"
+#include "shell/frame.h"
 #include "synth/profile.h"
 #include "synth/tone.h"
 #include "synth/views.h"
@@ -512,7 +513,7 @@ TEST_F(Patch_Lamps, take_the_TAB_key_and_the_other_controls_do_not) {
 TEST_F(Patch_Lamps, go_back_to_the_first_at_the_start) {
     Patch_Key_Mode_Sel = 4;
     Patch_After_Touch_Sel = 2;
-    Patch_Lamps_To_First();
+    Patch_Lamps_Reset();
     EXPECT_EQ(Patch_Key_Mode_Sel, 0);
     EXPECT_EQ(Patch_After_Touch_Sel, 0);
 }
