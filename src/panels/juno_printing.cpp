@@ -161,44 +161,46 @@ void Print_Bender(Printing& printing, const Juno_Row& row) {
 // -- the envelope's stages below their sliders
 // --------------------------------------------------------------
 
+// A piece of the curve: where it ends, and what the way there and its end are called.
 struct Stage {
-    double x;  // of its end
-    double y;
-    const char* time;   // what the way there is called
-    const char* level;  // and what its end is
+    Print_Point end;
+    const char* time;  // "" for the way along the plateau
+    const char* level;
     Print_Point level_at;
     Align level_align;
 };
 
 constexpr double Stage_Base = 439;
 constexpr Print_Point Key_On = {52, Stage_Base};
+constexpr Print_Point Key_Off = {268, 419};
 const std::array<Stage, 5> Stages = {{
-    {104, 416, "T1", "L1", {104, 413}, Align::Centre},
-    {156, 430, "T2", "L2", {161, 437}, Align::Left},
-    {208, 419, "T3", "L3", {208, 415}, Align::Centre},
-    {268, 419, "", "KEY OFF", {271, 417}, Align::Left},
-    {326, Stage_Base, "T4", "", {0, 0}, Align::Left},
+    {{104, 416}, "T1", "L1", {104, 413}, Align::Centre},
+    {{156, 430}, "T2", "L2", {161, 437}, Align::Left},
+    {{208, 419}, "T3", "L3", {208, 415}, Align::Centre},
+    {Key_Off, "", "", {}, Align::Left},
+    {{326, Stage_Base}, "T4", "", {}, Align::Left},
 }};
+
+void Print_Name(Printing& printing, const char* name, Print_Point at, Align align) {
+    if (*name != '\0') printing.texts.push_back({name, at, align, Caption_Size, Ink::Print});
+}
 
 void Print_Stages(Printing& printing) {
     constexpr double Name_Line = 450;
-    printing.lines.push_back({{{Key_On.x, Stage_Base}, {332, Stage_Base}}, 1, Ink::Frame});
-    printing.texts.push_back({"KEY ON", {Key_On.x - 5, Stage_Base}, Align::Right, Scale_Size, Ink::Faint});
+    printing.lines.push_back({{Key_On, {332, Stage_Base}}, 1, Ink::Frame});
     Print_Line curve = {{Key_On}, 1.5, Ink::Heading};
-    double from = Key_On.x;
     for (const Stage& stage : Stages) {
-        curve.points.push_back({stage.x, stage.y});
-        if (stage.y < Stage_Base)
-            printing.lines.push_back({{{stage.x, stage.y}, {stage.x, Stage_Base}}, 1, Ink::Frame});
-        printing.texts.push_back(
-            {stage.time, {(from + stage.x) / 2, Name_Line}, Align::Centre, Caption_Size, Ink::Print});
-        const bool is_level = stage.level[0] == 'L';
-        printing.texts.push_back({stage.level, stage.level_at, stage.level_align,
-                                  is_level ? Caption_Size : Scale_Size,
-                                  is_level ? Ink::Print : Ink::Faint});
-        from = stage.x;
+        const double middle = (curve.points.back().x + stage.end.x) / 2;
+        Print_Name(printing, stage.time, {middle, Name_Line}, Align::Centre);
+        Print_Name(printing, stage.level, stage.level_at, stage.level_align);
+        if (stage.end.y < Stage_Base)
+            printing.lines.push_back({{stage.end, {stage.end.x, Stage_Base}}, 1, Ink::Frame});
+        curve.points.push_back(stage.end);
     }
     printing.lines.push_back(curve);
+    printing.texts.push_back({"KEY ON", {Key_On.x - 5, Stage_Base}, Align::Right, Scale_Size, Ink::Faint});
+    printing.texts.push_back(
+        {"KEY OFF", {Key_Off.x + 3, Key_Off.y - 2}, Align::Left, Scale_Size, Ink::Faint});
 }
 
 }  // namespace
