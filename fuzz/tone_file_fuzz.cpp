@@ -25,6 +25,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     const auto tone = Tone_Data;
     const auto patch = Patch_Data;
+    // A save leaves what lies behind its 89 bytes, and that may be another tone.
+    std::remove(path.c_str());
     Tone_File_Name = path;
     SYX_Save();
     Tone_Data.fill(1);
