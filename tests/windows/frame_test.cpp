@@ -58,6 +58,21 @@ TEST_F(Frame, shows_an_entry_as_soon_as_it_has_a_function) {
     EXPECT_TRUE(Entry("Menu_MIDI_Osc")->isVisible());
 }
 
+TEST_F(Frame, stops_a_running_sequencer_when_the_submenu_of_tone_files_opens) {
+    Start();
+    Seq_Running = Flag_8::True;
+    Seq_Pos = 5;
+    auto* file = window_->findChild<QAction*>("Menu_File")->menu();
+    file->popup(window_->mapToGlobal(QPoint(0, 0)));
+    EXPECT_EQ(Seq_Running, Flag_8::True) << "not by the menu around it";
+    file->setActiveAction(Entry("Menu_File_SYX"));
+    QTest::keyClick(file, Qt::Key_Right);
+    EXPECT_TRUE(Entry("Menu_File_SYX")->menu()->isVisible());
+    EXPECT_EQ(Seq_Running, Flag_8::False);
+    EXPECT_EQ(Seq_Pos, 0);
+    file->hide();
+}
+
 TEST_F(Frame, draws_a_line_for_a_separator_and_no_text) {
     Start();
     EXPECT_TRUE(Entry("Menu_File_Trenn_2")->isSeparator());
