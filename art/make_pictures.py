@@ -630,6 +630,7 @@ def all_pictures():
         "led_1": lamp(("#ffd9d0", "#ff3a2c", "#d81410"), True),
         "led_2": lamp(("#e2ffe6", "#3fe070", "#12a544"), True),
         "led_3": lamp(("#fff2cc", "#ffb030", "#d97c08"), True),
+        "led_4": lamp(("#d4fff8", "#2fd8c8", "#109488"), True),
         "button_up3d": push_button(22, 22, False),
         "button_dn3d": push_button(22, 22, True),
         "start_enabled": play_symbol(True),

@@ -48,12 +48,14 @@ extern Window Editor;
 extern Window Editor_Juno;
 extern Window Patch;
 extern Window Sequencer;
+extern Window Oscillator;
 extern Window MIDI_Setup;
 extern Window TName;
 
 // Whether the windows that may come and go stand open; written by their load and unload.
 extern Flag_8 Patch_Window_Open;
 extern Flag_8 Seq_Window_Open;
+extern Flag_8 Osc_Window_Open;
 
 // Remembered places, in twips.
 extern std::int16_t Patch_Left;

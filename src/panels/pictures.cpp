@@ -15,7 +15,7 @@ constexpr std::array Roles = {
     Picture_Role{Picture_Store::Buttons,          "buttons",           6,    7,    16,    16},
     Picture_Role{Picture_Store::Buttons,          "buttons",           8,    8,    28,    26},
     Picture_Role{Picture_Store::Buttons,          "buttons",           9,   10,    43,    22},
-    Picture_Role{Picture_Store::LED,              "led",               0,    3,    14,    14},
+    Picture_Role{Picture_Store::LED,              "led",               0,    4,    14,    14},
     Picture_Role{Picture_Store::Button_Up3D,      "button_up3d",       0,    0,    22,    22},
     Picture_Role{Picture_Store::Button_Dn3D,      "button_dn3d",       0,    0,    22,    22},
     Picture_Role{Picture_Store::Start_Enabled,    "start_enabled",     0,    0,    14,    14},

@@ -37,6 +37,7 @@ const std::vector<Expected> Catalogue = {
     {Picture_Store::LED,      1, "led_1",      14, 14},
     {Picture_Store::LED,      2, "led_2",      14, 14},
     {Picture_Store::LED,      3, "led_3",      14, 14},
+    {Picture_Store::LED,      4, "led_4",      14, 14},
     {Picture_Store::Button_Up3D,    0, "button_up3d",    22, 22},
     {Picture_Store::Button_Dn3D,    0, "button_dn3d",    22, 22},
     {Picture_Store::Start_Enabled,  0, "start_enabled",  14, 14},
@@ -87,7 +88,7 @@ TEST(The_Catalogue, refuses_an_item_that_it_does_not_hold) {
     EXPECT_THROW(Picture_Of(Picture_Store::Buttons, 11), Fatal_Error);
     EXPECT_THROW(Picture_Of(Picture_Store::Buttons, -1), Fatal_Error);
     EXPECT_THROW(Picture_Of(Picture_Store::Record, 1), Fatal_Error);
-    EXPECT_THROW(Picture_Of(Picture_Store::LED, 4), Fatal_Error);
+    EXPECT_THROW(Picture_Of(Picture_Store::LED, 5), Fatal_Error);
 }
 
 TEST(The_Catalogue, is_packed_into_the_program_whole) {

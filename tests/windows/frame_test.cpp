@@ -52,10 +52,10 @@ TEST_F(Frame, shows_the_menus_that_have_a_function) {
 
 TEST_F(Frame, shows_an_entry_as_soon_as_it_has_a_function) {
     Start();
-    EXPECT_FALSE(Entry("Menu_MIDI_Osc")->isVisible());
-    Menu(Menu_MIDI_Osc).chosen = [] {};
+    EXPECT_FALSE(Entry("Menu_Help_About")->isVisible());
+    Menu(Menu_Help_About).chosen = [] {};
     window_->Show_Changes();
-    EXPECT_TRUE(Entry("Menu_MIDI_Osc")->isVisible());
+    EXPECT_TRUE(Entry("Menu_Help_About")->isVisible());
 }
 
 TEST_F(Frame, stops_a_running_sequencer_when_the_submenu_of_tone_files_opens) {
