@@ -29,6 +29,8 @@ void Read_Save_And_Read(const char* instrument, const std::string& path, Record&
     SYX_Load(path, "Soundcheck");
     SYX_Load(path, SYX_Mode_Open);
     const Record before = record;
+    // A save leaves what lies behind the bytes that it writes, and that may be another tone.
+    std::remove(path.c_str());
     Tone_File_Name = path;
     SYX_Save();
     record.fill(1);
@@ -46,6 +48,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Write(path, data, size);
     Read_Save_And_Read("JX-8P", path, Tone_Data);
     const auto patch = Patch_Data;
+    Patch_Data.fill(1);
     SYX_Load(path, SYX_Mode_Open);
     for (std::size_t number = 0; number < Patch_Sent_Count; ++number) {
         if (Patch_Data[number] != patch[number]) std::abort();
