@@ -79,3 +79,11 @@ void Window_Centre_Over_Main(Window& window) {
     window.left = Main_Window.left + (Main_Window.width - window.width) / 2;
     window.top = Main_Window.top + (Main_Window.height - window.height) / 2;
 }
+
+std::vector<Window*> Windows_Inside() {
+    std::vector<Window*> open;
+    for (Window* window : {&Editor, &Editor_Juno, &Patch, &Sequencer}) {
+        if (window->loaded && window->visible) open.push_back(window);
+    }
+    return open;
+}

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "platform/hook.h"
 #include "platform/numbers.h"
@@ -77,3 +78,6 @@ void Window_Unload(Window& window);
 // The common place of dialog-like windows: half the difference of the two sizes, measured from the main
 // window's place.
 void Window_Centre_Over_Main(Window& window);
+
+// The windows that stand open inside the frame, for the list under Menu_Windows.
+std::vector<Window*> Windows_Inside();

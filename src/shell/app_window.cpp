@@ -1,5 +1,6 @@
 #include "shell/app_window.h"
 
+#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
@@ -79,7 +80,10 @@ constexpr Child_Row Children[] = {
 }  // namespace
 
 App_Window::App_Window()
-    : ground_(new Ground(this)), children_(std::size(Children)), agreed_(Wanted_Place()) {
+    : ground_(new Ground(this)),
+      children_(std::size(Children)),
+      list_(new QActionGroup(this)),
+      agreed_(Wanted_Place()) {
     setObjectName(Main_Window.name);
     setCentralWidget(ground_);
     setMinimumSize(Smallest_Frame);
@@ -129,6 +133,25 @@ void App_Window::Show_Menus() {
     }
 }
 
+// The windows inside the frame, below the entries of Menu_Windows; choosing one brings it to the front.
+void App_Window::Show_Window_List() {
+    const std::vector<Window*> open = Windows_Inside();
+    std::vector<std::string> captions;
+    for (const Window* window : open) captions.push_back(window->caption);
+    if (captions == listed_) return;
+    listed_ = captions;
+    QMenu* menu = entries_[Menu_Windows]->menu();
+    qDeleteAll(list_->actions());
+    list_->addAction(menu->addSeparator());
+    for (std::size_t place = 0; place < open.size(); ++place) {
+        QString caption = QString::fromStdString(captions[place]);
+        caption.replace("&", "&&");
+        QAction* entry = list_->addAction(menu->addAction(QString("&%1 %2").arg(place + 1).arg(caption)));
+        connect(entry, &QAction::triggered,
+                [window = open[place]] { Guarded_Event([window] { Window_Show(*window); }); });
+    }
+}
+
 void App_Window::Show_Panels() {
     if (Editor.loaded && editor_ == nullptr) {
         editor_ = new Panel_Window(Editor_Panel, Editor_Printing(), ground_);
@@ -162,6 +185,7 @@ void App_Window::Show_Changes() {
         setWindowTitle(QString::fromStdString(Main_Window.caption));
         if (cursor().shape() != Shape_Of(Main_Window.pointer)) setCursor(Shape_Of(Main_Window.pointer));
         Show_Menus();
+        Show_Window_List();
         Show_Panels();
         Show_Place();
         Show_Frame();

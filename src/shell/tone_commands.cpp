@@ -4,6 +4,7 @@
 #include "desk/menus.h"
 #include "desk/recent.h"
 #include "desk/timers.h"
+#include "midi/in.h"
 #include "midi/out.h"
 #include "panels/editor.h"
 #include "panels/push_buttons.h"
@@ -69,6 +70,11 @@ void File_SYX_Opened() {
     Button_Release(Editor_Seq_Start);
 }
 
+void Tone_Receive_Chosen() {
+    Panel_Restore_Picture();
+    if (Tone_May_Go(Buttons_Set::Yes_No)) MIDI_Receive_Toggle();
+}
+
 void Tone_Commands_Install() {
     Menu(Menu_File_SYX).opened = File_SYX_Opened;
     Menu(Menu_File_SYX_New).chosen = File_SYX_New_Chosen;
@@ -80,6 +86,7 @@ void Tone_Commands_Install() {
     Menu(Menu_File_SYX_4).chosen = [] { Open_Recent(4); };
     Menu(Menu_Edit_Undo).chosen = Undo_Restore;
     Menu(Menu_Tone_Random).chosen = Tone_Random;
+    Menu(Menu_Tone_Receive).chosen = Tone_Receive_Chosen;
 }
 
 void File_Commands_Install() {
