@@ -75,7 +75,7 @@ oscillator_at() {
 # Draws a curve by hand, plays it, and shoots the window while it plays.
 shoot_oscillator() {
     scale=2
-    menu=22
+    menu=21
     QT_SCALE_FACTOR=$scale "$folder/tonebench" &
     local program=$!
     sleep 2
