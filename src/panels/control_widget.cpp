@@ -81,8 +81,9 @@ void Control_Widget::Show_Changes() {
     shown_ = record_;
 }
 
+// A control without a picture that takes no focus either is nothing to see.
 bool Control_Widget::Is_Field() const {
-    return record_.picture.store == Picture_Store::None;
+    return record_.picture.store == Picture_Store::None && record_.focusable;
 }
 
 void Control_Widget::paintEvent(QPaintEvent*) {

@@ -115,6 +115,33 @@ void Panel_Knob_Show(const std::string& kind, int centre_top, int centre_left, d
     Place_Dot(*knob->dot, centre_left, centre_top, degrees_a_unit * knob->shown_value());
 }
 
+Control Plain_Control(Window& window, const char* name, const char* spoken_name, bool focusable) {
+    return {.name = name, .spoken_name = spoken_name, .window = &window, .focusable = focusable};
+}
+
+void Control_Set_Place(Control& control, int left, int top, int width, int height) {
+    control.left = left;
+    control.top = top;
+    control.width = width;
+    control.height = height;
+}
+
+void Control_Set_Picture(Control& control, Picture_Store store, int item) {
+    control.picture = Picture_Of(store, item);
+    const Picture_Role& role = Role_Of(control.picture);
+    control.width = role.width;
+    control.height = role.height;
+}
+
+Button_Item Thumb_Of_Kind(std::string_view kind) {
+    if (kind == "bl") return Thumb_Left;
+    return kind == "br" ? Thumb_Right : Thumb_Slider;
+}
+
+void Window_Set_Active_Top(const Window& window, int top) {
+    if (window.active_control != nullptr) window.active_control->top = top;
+}
+
 void Controls_Install() {
     Panel_Restore_Picture = Restore_Picture;
 }

@@ -14,6 +14,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "desk/dialog_lock.h"
 #include "desk/windows.h"
@@ -70,6 +71,19 @@ void Panel_Blink_Tick();
 // the value in its record. Value 0 is straight up, positive values go clockwise.
 void Panel_Knob_Dot(int centre_left, int centre_top, double degrees_a_unit);
 void Panel_Knob_Show(const std::string& kind, int centre_top, int centre_left, double degrees_a_unit);
+
+// A control without a kind: a button, a field, a decoration.
+Control Plain_Control(Window& window, const char* name, const char* spoken_name, bool focusable);
+
+void Control_Set_Place(Control& control, int left, int top, int width, int height);
+// The picture, and the size that comes with it.
+void Control_Set_Picture(Control& control, Picture_Store store, int item = 0);
+
+// The thumb of a switch's or slider's kind at rest.
+Button_Item Thumb_Of_Kind(std::string_view kind);
+
+// Moves the control that has the window's focus; without one there is no thumb to move.
+void Window_Set_Active_Top(const Window& window, int top);
 
 // Fills Panel_Restore_Picture (desk/dialog_lock.h): the focused control gets its resting picture, and the
 // next knob drag counts from row 0.

@@ -35,9 +35,8 @@ bool Is_Slider(std::size_t parameter) {
     });
 }
 
-// The control that has the focus; without one there is no thumb to move.
 void Set_Active_Top(int top) {
-    if (Editor.active_control != nullptr) Editor.active_control->top = top;
+    Window_Set_Active_Top(Editor, top);
 }
 
 // Which of four rows a byte belongs to, counted from the lowest; 4 above 127.

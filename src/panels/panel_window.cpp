@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "panels/control_widget.h"
+#include "panels/graph_widget.h"
 #include "platform/gate.h"
 
 Panel_Window::Panel_Window(const Panel& panel, Printing printing, QWidget* parent)
@@ -21,6 +22,7 @@ Panel_Window::Panel_Window(const Panel& panel, Printing printing, QWidget* paren
         if (before != nullptr) setTabOrder(before, widget);
         before = widget;
     }
+    if (panel.graph != nullptr) graph_ = new Graph_Widget(*panel.graph, this);
 }
 
 Control_Widget* Panel_Window::Widget_Of(const Control* control) const {
@@ -33,6 +35,7 @@ Control_Widget* Panel_Window::Widget_Of(const Control* control) const {
 void Panel_Window::Show_Changes() {
     const Window& window = *panel_.window;
     for (Control_Widget* widget : widgets_) widget->Show_Changes();
+    if (graph_ != nullptr) graph_->Show_Changes();
     move(window.left, window.top);
     if (isEnabled() != window.enabled) setEnabled(window.enabled);
     if (isHidden() == window.visible) setVisible(window.visible);
@@ -55,7 +58,11 @@ void Panel_Window::paintEvent(QPaintEvent*) {
 }
 
 bool Panel_Window::event(QEvent* event) {
-    if (event->type() == QEvent::WindowActivate) Guarded_Event([this] { panel_.events.activated(); });
-    if (event->type() == QEvent::WindowDeactivate) Guarded_Event([this] { panel_.events.deactivated(); });
+    // The frame tells all its panels; only the one on show is meant.
+    if (panel_.window->visible) {
+        if (event->type() == QEvent::WindowActivate) Guarded_Event([this] { panel_.events.activated(); });
+        if (event->type() == QEvent::WindowDeactivate)
+            Guarded_Event([this] { panel_.events.deactivated(); });
+    }
     return QWidget::event(event);
 }

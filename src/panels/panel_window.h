@@ -9,6 +9,7 @@
 #include "panels/pictures_qt.h"
 
 class Control_Widget;
+class Graph_Widget;
 
 class Panel_Window : public QWidget {
   public:
@@ -28,5 +29,6 @@ class Panel_Window : public QWidget {
     const Panel& panel_;
     Printed_Ground ground_;
     std::vector<Control_Widget*> widgets_;
+    Graph_Widget* graph_ = nullptr;
     int times_raised_ = 0;
 };

@@ -30,9 +30,12 @@ void Panel_Dec(double& value);
 // End to 0; within 0 to 127. Nothing for any other key.
 std::optional<double> Slider_Step(double value, int key, double page);
 
-// Switch of positions: Up, keypad + and Page Up a step of 32 up, `ceiling` at most; Down, keypad - and Page
-// Down a step down, or 0 from 31 and less; Home to the ceiling, End to 0. Nothing for any other key.
-std::optional<double> Switch_Step(double value, int key, double ceiling = Highest_Value);
+// Switch of positions: Up, keypad + and Page Up a step up, `ceiling` at most; Down, keypad - and Page Down
+// a step down, or 0 from less than a step; Home to the ceiling, End to 0. Nothing for any other key. A step
+// is a band of bytes, unless the value is the position itself.
+inline constexpr double Switch_Band = 32;
+std::optional<double> Switch_Step(double value, int key, double ceiling = Highest_Value,
+                                  double step = Switch_Band);
 
 // Tune knob, in semitones within -12 to 12. A key without a meaning leaves the value.
 double Tune_Step(double semitones, int key);

@@ -12,6 +12,8 @@
 #include "oscwin/oscillator_window.h"
 #include "panels/editor.h"
 #include "panels/editor_printing.h"
+#include "panels/juno_panel.h"
+#include "panels/juno_printing.h"
 #include "panels/panel_window.h"
 #include "panels/pictures_qt.h"
 #include "platform/gate.h"
@@ -71,6 +73,17 @@ struct Child_Row {
     Child_Window* (*make)(QMainWindow* parent);
 };
 
+struct Panel_Row {
+    const Panel& panel;
+    Printing (*printing)();
+};
+
+// The panels in the frame's client area; the profile shows one of them.
+constexpr Panel_Row Panels[] = {
+    {Editor_Panel, Editor_Printing},
+    {Juno_Panel, Juno_Printing},
+};
+
 // The windows over the main one.
 constexpr Child_Row Children[] = {
     {MIDI_Setup, Make<Setup_Window>},
@@ -83,6 +96,7 @@ constexpr Child_Row Children[] = {
 
 App_Window::App_Window()
     : ground_(new Ground(this)),
+      panels_(std::size(Panels)),
       children_(std::size(Children)),
       list_(new QActionGroup(this)),
       agreed_(Wanted_Place()) {
@@ -155,10 +169,12 @@ void App_Window::Show_Window_List() {
 }
 
 void App_Window::Show_Panels() {
-    if (Editor.loaded && editor_ == nullptr) {
-        editor_ = new Panel_Window(Editor_Panel, Editor_Printing(), ground_);
+    for (std::size_t index = 0; index < std::size(Panels); ++index) {
+        const auto& [panel, printing] = Panels[index];
+        Panel_Window*& shown = panels_[index];
+        if (panel.window->loaded && shown == nullptr) shown = new Panel_Window(panel, printing(), ground_);
+        if (shown != nullptr) shown->Show_Changes();
     }
-    if (editor_ != nullptr) editor_->Show_Changes();
 }
 
 // Behind the frame, as not every desktop lets a window come to the front later.

@@ -4,21 +4,30 @@
 #include "oscwin/oscwin.h"
 #include "panels/controls.h"
 #include "panels/editor.h"
+#include "panels/juno_panel.h"
 #include "sequencer/engine.h"
 #include "seqwin/seqwin.h"
 #include "setup/setup.h"
 #include "shell/commands.h"
+#include "shell/display_check.h"
 #include "shell/frame.h"
 #include "shell/osc_commands.h"
 #include "shell/sequence_commands.h"
 #include "shell/settings_file.h"
 #include "shell/tone_commands.h"
 #include "shell/window_commands.h"
+#include "synth/juno.h"
+#include "synth/juno_file.h"
 
 void Program_Wire() {
     Controls_Install();
     Sequencer_Install();
     Editor_Install();
+    Juno_Install();
+    Juno_File_Install();
+    Juno_Panel_Install();
+    Juno_Take_Font = Juno_Set_Font;
+    Juno_Show_Name = Juno_Display_Tick;
     Seqwin_Install();
     Setup_Install();
     Osc_Install();

@@ -237,10 +237,3 @@ TEST_F(SYX_Saved, under_the_alpha_juno_is_what_its_room_gives) {
     EXPECT_EQ(Read_Hex(Path("x.syx")), "F0 41 35 00 23 20 01 01 02 F7");
     EXPECT_EQ(Tone_Saved, Flag_16::True);
 }
-
-TEST_F(SYX_Saved, under_the_alpha_juno_does_not_happen_without_its_room) {
-    Synthesizer = "Alpha Juno";
-    SYX_Save();
-    EXPECT_FALSE(std::filesystem::exists(Path("x.syx")));
-    EXPECT_EQ(Tone_Saved, Flag_16::False);
-}
