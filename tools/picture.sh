@@ -107,11 +107,12 @@ oscillator_at() {
 
 # Draws a curve by hand and plays it.
 play_oscillator() {
+    menu=21
     xdotool key ctrl+i
     sleep 1
     xdotool mousemove $(oscillator_at 310 32) click 1
     sleep 0.5
-    xdotool key v v Return # VCF Resonance
+    xdotool key v v Return # VCF Cutoff
     xdotool mousemove $(oscillator_at 9 110) mousedown 1
     for place in 16,96 23,80 30,64 37,52 44,46 51,48 58,58 65,74 72,92 79,104 86,106 93,98 100,84 107,70 114,60 121,56 \
         131,58; do
