@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Takes the pictures of the documents from the real program: tools/picture.sh BUILD-FOLDER
 # Starts a virtual screen and a JACK server with a device each way, plays a little on the panel, and writes
-# docs/panel.png, docs/panel@2x.png, docs/juno.png, docs/juno_envelope.png and docs/setup.png.
+# the pictures of docs/. No menu opens the MKS-70's patch window; its picture, docs/patch_mks70.png, is what
+# the windows' tests leave in the build folder.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 build=$(cd "$1" && pwd)
@@ -99,16 +100,61 @@ play_envelope() {
     drag_control 309 390 20
 }
 
-# Shoots the window at a device pixel ratio, with a panel played on, into a file.
+# A place in the oscillator's window, which stands in the middle of the main one.
+oscillator_at() {
+    echo $(((67 + $1) * scale)) $(((132 + menu + $2) * scale))
+}
+
+# Draws a curve by hand and plays it.
+play_oscillator() {
+    xdotool key ctrl+i
+    sleep 1
+    xdotool mousemove $(oscillator_at 310 32) click 1
+    sleep 0.5
+    xdotool key v v Return # VCF Resonance
+    xdotool mousemove $(oscillator_at 9 110) mousedown 1
+    for place in 16,96 23,80 30,64 37,52 44,46 51,48 58,58 65,74 72,92 79,104 86,106 93,98 100,84 107,70 114,60 121,56 \
+        131,58; do
+        xdotool mousemove $(oscillator_at "${place%,*}" "${place#*,}")
+    done
+    xdotool mouseup 1
+    xdotool mousemove $(oscillator_at 156 94) click 1
+    xdotool key Page_Up Up Up Up
+    xdotool mousemove $(oscillator_at 213 94) click 1
+    xdotool key Page_Down Page_Down Page_Down Page_Down
+    xdotool mousemove $(oscillator_at 20 172) click 1
+    sleep 1.9
+    area="394 192 67 $((132 + menu))"
+}
+
+# The Patch window opens at the upper left corner of the panel.
+play_patch() {
+    xdotool key ctrl+p
+    sleep 0.5
+    touch_control 28 120 Page_Up 4  # portamento time
+    touch_control 28 155 Page_Up 0  # portamento on, by the press
+    touch_control 94 120 Page_Up 2
+    touch_control 125 70 Up 2       # range 4
+    touch_control 159 84 Page_Up 0  # unison 2
+    touch_control 229 39 Page_Up 0  # vibrato
+    touch_control 175 150 Page_Up 1 # detune
+    area="296 196 0 22"
+}
+
+# Shoots at a device pixel ratio, behind what is played, into a file: the main window, or the area (width,
+# height, left, top in logical pixels) that the playing names.
 shoot() {
     scale=$1
     menu=22
+    area="541 508 0 0"
     QT_SCALE_FACTOR=$scale "$folder/tonebench" &
     local program=$!
     sleep 2
     "$2"
     sleep 0.2
-    import -window root -crop $((541 * scale))x$((508 * scale))+0+0 +repage "$3"
+    local width height left top
+    read -r width height left top <<<"$area"
+    import -window root -crop $((width * scale))x$((height * scale))+$((left * scale))+$((top * scale)) +repage "$3"
     kill $program
     wait $program 2>/dev/null || true
     sleep 4 # the server is busy behind a client that was killed
@@ -116,9 +162,13 @@ shoot() {
 
 shoot 1 play_panel "$docs/panel.png"
 shoot 2 play_panel "$docs/panel@2x.png"
+shoot 2 play_oscillator "$docs/oscillator.png"
+shoot 1 play_patch "$docs/patch.png"
 printf 'Synthesizer=Alpha Juno\n' >>"$folder/Tonebench.INI"
 shoot 2 play_juno "$docs/juno.png"
 shoot 2 play_envelope "$docs/juno_envelope.png"
+
+cp "$build/patch_mks70.png" "$docs/patch_mks70.png"
 
 rm "$folder/Tonebench.INI"
 "$folder/tonebench" &

@@ -9,11 +9,14 @@
 
 #include "desk/menus.h"
 #include "desk/windows.h"
+#include "oscwin/oscillator_window.h"
 #include "panels/editor.h"
 #include "panels/editor_printing.h"
 #include "panels/juno_panel.h"
 #include "panels/juno_printing.h"
+#include "panels/mks_patch_window.h"
 #include "panels/panel_window.h"
+#include "panels/patch_window.h"
 #include "panels/pictures_qt.h"
 #include "platform/gate.h"
 #include "seqwin/seqwin_window.h"
@@ -35,6 +38,14 @@ class Ground : public QWidget {
     }
     void mousePressEvent(QMouseEvent*) override { Guarded_Event(Main_Background_Click); }
 };
+
+// As the toolkit writes a caption: of several "&" only the first marks a letter, the others are part of a
+// path.
+QString Toolkit_Caption(const std::string& caption) {
+    const QString text = QString::fromStdString(caption).trimmed();
+    const qsizetype behind_mark = text.indexOf('&') + 1;
+    return text.left(behind_mark) + text.mid(behind_mark).replace("&", "&&");
+}
 
 // An entry is of use when something happens on it or below it.
 bool Has_Function(std::size_t index) {
@@ -87,7 +98,10 @@ constexpr Panel_Row Panels[] = {
 constexpr Child_Row Children[] = {
     {MIDI_Setup, Make<Setup_Window>},
     {TName, Make<TName_Window>},
+    {Patch, Make<Patch_Window>},
+    {Patch_MKS70, Make<MKS_Patch_Window>},
     {Sequencer, Make<Sequencer_Window>},
+    {Oscillator, Make<Oscillator_Window>},
 };
 
 }  // namespace
@@ -139,7 +153,7 @@ void App_Window::Show_Menus() {
         const Menu_Entry& entry = Menu_Tree[index];
         QAction& action = *entries_[index];
         // The toolkit draws a line for a separator that has no text, and the text of one that has.
-        if (!Is_Separator(entry)) action.setText(QString::fromStdString(entry.caption).trimmed());
+        if (!Is_Separator(entry)) action.setText(Toolkit_Caption(entry.caption));
         action.setVisible(entry.visible && (Has_Function(index) || Is_Separator(entry)));
         action.setEnabled(entry.enabled);
         if (entry.checked) action.setCheckable(true);

@@ -1,15 +1,19 @@
 #include "shell/wiring.h"
 
 #include "desk/timers.h"
+#include "oscwin/oscwin.h"
 #include "panels/controls.h"
 #include "panels/editor.h"
 #include "panels/juno_panel.h"
+#include "panels/mks_patch.h"
+#include "panels/patch.h"
 #include "sequencer/engine.h"
 #include "seqwin/seqwin.h"
 #include "setup/setup.h"
 #include "shell/commands.h"
 #include "shell/display_check.h"
 #include "shell/frame.h"
+#include "shell/osc_commands.h"
 #include "shell/sequence_commands.h"
 #include "shell/settings_file.h"
 #include "shell/tone_commands.h"
@@ -21,6 +25,9 @@ void Program_Wire() {
     Controls_Install();
     Sequencer_Install();
     Editor_Install();
+    Patch_Install();
+    MKS_Patch_Install();
+    Patch_Lamps_Reset = Patch_Lamps_To_First;
     Juno_Install();
     Juno_File_Install();
     Juno_Panel_Install();
@@ -28,10 +35,12 @@ void Program_Wire() {
     Juno_Show_Name = Juno_Display_Tick;
     Seqwin_Install();
     Setup_Install();
+    Osc_Install();
     Commands_Install();
     Tone_Commands_Install();
     Sequence_Commands_Install();
     Name_Command_Install();
+    Osc_Commands_Install();
     Window_Commands_Install();
     Settings_Install();
     Timer_Display.tick = Main_Display_Tick;
