@@ -85,7 +85,7 @@ TEST_F(Random, of_its_own_numbers_keeps_below_127_and_differs_from_tone_to_tone)
 TEST_F(Random, does_not_begin_every_run_with_the_same_tone) {
     std::mt19937 unseeded;
     std::array<int, 49> same = {};
-    for (int& value : same) value = static_cast<int>(unseeded() / 4294967296.0 * 127);
+    for (int& value : same) value = static_cast<int>(static_cast<double>(unseeded()) / 4294967296.0 * 127);
     Tone_Random();
     EXPECT_FALSE(std::equal(same.begin() + 1, same.end(), Tone_Data.begin() + 11));
 }
