@@ -542,6 +542,13 @@ def caption_cancel():
     return s
 
 
+def tone_symbol(name):
+    """The letter of a tone, on its push button; centred like the symbols."""
+    s = sheet(14, 14)
+    word(s, [(name, 6, 0)], 4, 3, 10, 2, 2, printing)
+    return s
+
+
 def caption_new():
     """The word NEW, for the key over the sequencer's keys."""
     s = sheet(22, 7)
@@ -642,6 +649,8 @@ def all_pictures():
         "dlg2_dn": push_button(65, 34, True, 3),
         "dlg2_ok": caption_ok(),
         "dlg2_cancel": caption_cancel(),
+        "tone_a_pic": tone_symbol("A"),
+        "tone_b_pic": tone_symbol("B"),
         "seq_pics_0": sequencer_cell("empty"),
         "seq_pics_1": sequencer_cell("light"),
         "seq_pics_2": sequencer_cell("loud"),

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Takes the pictures of the documents from the real program: tools/picture.sh BUILD-FOLDER
 # Starts a virtual screen and a JACK server with a device each way, plays a little on the panel, and writes
-# the pictures of docs/.
+# the pictures of docs/. No menu opens the MKS-70's patch window; its picture, docs/patch_mks70.png, is what
+# the windows' tests leave in the build folder.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 build=$(cd "$1" && pwd)
@@ -106,11 +107,12 @@ oscillator_at() {
 
 # Draws a curve by hand and plays it.
 play_oscillator() {
+    menu=21
     xdotool key ctrl+i
     sleep 1
     xdotool mousemove $(oscillator_at 310 32) click 1
     sleep 0.5
-    xdotool key v v Return # VCF Resonance
+    xdotool key v v Return # VCF Cutoff
     xdotool mousemove $(oscillator_at 9 110) mousedown 1
     for place in 16,96 23,80 30,64 37,52 44,46 51,48 58,58 65,74 72,92 79,104 86,106 93,98 100,84 107,70 114,60 121,56 \
         131,58; do
@@ -124,6 +126,20 @@ play_oscillator() {
     xdotool mousemove $(oscillator_at 20 172) click 1
     sleep 1.9
     area="394 192 67 $((132 + menu))"
+}
+
+# The Patch window opens at the upper left corner of the panel.
+play_patch() {
+    xdotool key ctrl+p
+    sleep 0.5
+    touch_control 28 120 Page_Up 4  # portamento time
+    touch_control 28 155 Page_Up 0  # portamento on, by the press
+    touch_control 94 120 Page_Up 2
+    touch_control 125 70 Up 2       # range 4
+    touch_control 159 84 Page_Up 0  # unison 2
+    touch_control 229 39 Page_Up 0  # vibrato
+    touch_control 175 150 Page_Up 1 # detune
+    area="296 196 0 22"
 }
 
 # Shoots at a device pixel ratio, behind what is played, into a file: the main window, or the area (width,
@@ -148,9 +164,12 @@ shoot() {
 shoot 1 play_panel "$docs/panel.png"
 shoot 2 play_panel "$docs/panel@2x.png"
 shoot 2 play_oscillator "$docs/oscillator.png"
+shoot 1 play_patch "$docs/patch.png"
 printf 'Synthesizer=Alpha Juno\n' >>"$folder/Tonebench.INI"
 shoot 2 play_juno "$docs/juno.png"
 shoot 2 play_envelope "$docs/juno_envelope.png"
+
+cp "$build/patch_mks70.png" "$docs/patch_mks70.png"
 
 rm "$folder/Tonebench.INI"
 "$folder/tonebench" &

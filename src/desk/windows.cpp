@@ -23,6 +23,7 @@ Window Main_Window = {.name = "Tonebench", .width = 541, .height = 508};
 Window Editor = {.name = "Editor", .inside = true};
 Window Editor_Juno = {.name = "Editor_Juno", .inside = true};
 Window Patch = {.name = "Patch", .inside = true};
+Window Patch_MKS70 = {.name = "Patch_MKS70", .inside = true};
 Window Sequencer = {.name = "Sequencer", .inside = true};
 Window Oscillator = {.name = "Oscillator", .inside = true};
 Window MIDI_Setup = {.name = "MIDI_Setup"};
@@ -84,7 +85,7 @@ void Window_Centre_Over_Main(Window& window) {
 
 std::vector<Window*> Windows_Inside() {
     std::vector<Window*> open;
-    for (Window* window : {&Editor, &Editor_Juno, &Patch, &Sequencer, &Oscillator}) {
+    for (Window* window : {&Editor, &Editor_Juno, &Patch, &Patch_MKS70, &Sequencer, &Oscillator}) {
         if (window->loaded && window->visible) open.push_back(window);
     }
     return open;

@@ -32,25 +32,17 @@ void Knob_Key(const Editor_Row& row, int key) {
     Editor_Set_Value(parameter, byte);
 }
 
-// How far the pointer has moved since the last drag event. Behind a change of focus that counts from row 0
-// and not from the press, so the first event jumps by the row at which the pointer stands.
-std::int16_t Knob_Movement(double row) {
-    const std::int16_t now = To_Int16(row);
-    const std::int16_t movement = To_Int16(now - Panel_Knob_Last_Y);
-    Panel_Knob_Last_Y = now;
-    return movement;
-}
-
 void Knob_Drag(const Editor_Row& row, double pointer_row) {
     const std::size_t parameter = Parameter_Of(row);
     if (row.type == Control_Type::Tune_Knob) {
         const double semitones =
-            Panel_Tune_From_Byte(Tone_Byte(parameter)) + Knob_Movement(pointer_row / Rows_A_Semitone);
+            Panel_Tune_From_Byte(Tone_Byte(parameter)) + Panel_Knob_Movement(pointer_row / Rows_A_Semitone);
         Panel_Scratch_Real = Clamped(semitones, -12, 12);
         Panel_Knob_Dot(Dot_Centre_Left, Dot_Centre_Top, Degrees_A_Semitone);
         Editor_Set_Value(parameter, Panel_Tune_To_Byte(Panel_Scratch_Real));
     } else {
-        const double byte = Clamped(Tone_Byte(parameter) + Knob_Movement(pointer_row), 0, Highest_Value);
+        const double byte =
+            Clamped(Tone_Byte(parameter) + Panel_Knob_Movement(pointer_row), 0, Highest_Value);
         Editor_Set_Value(parameter, Narrow<std::uint8_t>(byte));
         Panel_Scratch_Real = Panel_Fine_From_Byte(Tone_Byte(parameter));
         Panel_Knob_Dot(Dot_Centre_Left, Dot_Centre_Top, Degrees_A_Fine_Unit);

@@ -2,12 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <cstddef>
-#include <numbers>
 #include <string_view>
 
 #include "panels/control_printing.h"
+#include "panels/knob_printing.h"
 #include "platform/numbers.h"
 
 namespace {
@@ -138,27 +137,14 @@ void Print_Switch_Row(Printing& printing, const Editor_Row& row) {
     }
 }
 
-// The knob's face is round (14, 12) of its body; the dot's angle is degrees a unit from straight up.
-Print_Point Round_Knob(const Editor_Row& row, double radius, double degrees) {
-    const double angle = degrees * std::numbers::pi / 180;
-    return {row.left + 14 + radius * std::sin(angle), row.top_row + 12 - radius * std::cos(angle)};
-}
-
-// One mark a semitone, or one every ten units of fine tune; the ends and the middle are numbered.
+// One mark a semitone, or one every ten units of fine tune; the ends are numbered.
 void Print_Knob(Printing& printing, const Editor_Row& row) {
     const bool fine = row.type == Control_Type::Fine_Knob;
     const int end = fine ? 50 : 12;
-    const int step = fine ? 10 : 1;
-    const double degrees = fine ? Degrees_A_Fine_Unit : Degrees_A_Semitone;
-    for (int unit = -end; unit <= end; unit += step) {
-        const bool numbered = unit == 0 || unit == -end || unit == end;
-        printing.lines.push_back(
-            {{Round_Knob(row, 13.5, unit * degrees), Round_Knob(row, numbered ? 17.5 : 16, unit * degrees)},
-             1,
-             numbered ? Ink::Print : Ink::Faint});
-    }
+    Print_Knob_Marks(printing, {row.left + Knob_Face_X, row.top_row + Knob_Face_Y}, end, fine ? 10 : 1,
+                     fine ? Degrees_A_Fine_Unit : Degrees_A_Semitone);
     printing.texts.push_back({Caption_Of(row).caption,
-                              {row.left + 14.0, row.top_row - 11.0},
+                              {row.left + Knob_Face_X, row.top_row - 11.0},
                               Align::Centre,
                               Caption_Size,
                               Ink::Print});

@@ -34,8 +34,6 @@ Control_Widget* Panel_Window::Widget_Of(const Control* control) const {
 
 void Panel_Window::Show_Changes() {
     const Window& window = *panel_.window;
-    for (Control_Widget* widget : widgets_) widget->Show_Changes();
-    if (graph_ != nullptr) graph_->Show_Changes();
     move(window.left, window.top);
     if (isEnabled() != window.enabled) setEnabled(window.enabled);
     if (isHidden() == window.visible) setVisible(window.visible);
@@ -43,14 +41,25 @@ void Panel_Window::Show_Changes() {
         times_raised_ = window.times_raised;
         raise();
     }
-    Give_Focus_Back();
+    Show_Controls();
 }
 
-// A window that was locked or hidden has lost the focus; it goes back to the control that had it.
-void Panel_Window::Give_Focus_Back() {
-    if (!isVisible() || !isEnabled() || this->window()->focusWidget() != nullptr) return;
-    Control_Widget* widget = Widget_Of(panel_.window->active_control);
-    if (widget != nullptr) widget->setFocus(Qt::OtherFocusReason);
+void Panel_Window::Show_Controls() {
+    for (Control_Widget* widget : widgets_) widget->Show_Changes();
+    if (graph_ != nullptr) graph_->Show_Changes();
+    Show_Focus();
+}
+
+// A rule that sends the focus elsewhere writes the record. And a window that was locked or hidden has lost
+// the focus; it goes back to the control that had it.
+void Panel_Window::Show_Focus() {
+    const Control* active = panel_.window->active_control;
+    Control_Widget* widget = Widget_Of(active);
+    if (widget == nullptr || !isEnabled() || !isVisibleTo(window())) return;
+    const bool lost = isVisible() && window()->focusWidget() == nullptr;
+    if (active == agreed_focus_ && !lost) return;
+    agreed_focus_ = active;
+    widget->setFocus(Qt::OtherFocusReason);
 }
 
 void Panel_Window::paintEvent(QPaintEvent*) {

@@ -5,6 +5,9 @@
 #include <optional>
 
 enum Key_Code : int {
+    Key_Tab = 9,
+    Key_Pause = 19,
+    Key_Escape = 27,
     Key_Page_Up = 33,
     Key_Page_Down = 34,
     Key_End = 35,
@@ -20,6 +23,9 @@ enum Key_Code : int {
 };
 
 inline constexpr double Highest_Value = 127;
+
+// A switch that is dragged sends on a jump only: more than this away from the drag event before.
+inline constexpr int Switch_Send_Difference = 4;
 
 // Adds 1; subtracts 1 unless the value is exactly 0. Neither clamps otherwise, and Panel_Dec is one
 // procedure for all kinds: that is why no key steps a tune knob below 0 by one.

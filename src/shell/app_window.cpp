@@ -14,7 +14,9 @@
 #include "panels/editor_printing.h"
 #include "panels/juno_panel.h"
 #include "panels/juno_printing.h"
+#include "panels/mks_patch_window.h"
 #include "panels/panel_window.h"
+#include "panels/patch_window.h"
 #include "panels/pictures_qt.h"
 #include "platform/gate.h"
 #include "seqwin/seqwin_window.h"
@@ -96,6 +98,8 @@ constexpr Panel_Row Panels[] = {
 constexpr Child_Row Children[] = {
     {MIDI_Setup, Make<Setup_Window>},
     {TName, Make<TName_Window>},
+    {Patch, Make<Patch_Window>},
+    {Patch_MKS70, Make<MKS_Patch_Window>},
     {Sequencer, Make<Sequencer_Window>},
     {Oscillator, Make<Oscillator_Window>},
 };

@@ -157,6 +157,7 @@ bool Main_Close() {
     Window_Unload(MIDI_Setup);
     Window_Unload(TName);
     Window_Unload(Oscillator);
+    Window_Unload(Patch_MKS70);
     Main_Unload();
     Main_Window.visible = false;
     return true;

@@ -5,6 +5,8 @@
 #include "panels/controls.h"
 #include "panels/editor.h"
 #include "panels/juno_panel.h"
+#include "panels/mks_patch.h"
+#include "panels/patch.h"
 #include "sequencer/engine.h"
 #include "seqwin/seqwin.h"
 #include "setup/setup.h"
@@ -23,6 +25,9 @@ void Program_Wire() {
     Controls_Install();
     Sequencer_Install();
     Editor_Install();
+    Patch_Install();
+    MKS_Patch_Install();
+    Patch_Lamps_Reset = Patch_Lamps_To_First;
     Juno_Install();
     Juno_File_Install();
     Juno_Panel_Install();

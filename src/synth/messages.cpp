@@ -4,6 +4,7 @@
 
 #include "synth/juno.h"
 #include "synth/patch.h"
+#include "synth/patch_mks70.h"
 #include "synth/profile.h"
 #include "synth/tokens.h"
 #include "synth/tone.h"
@@ -34,6 +35,14 @@ std::string Param_Text(std::size_t number, std::uint8_t value) {
 
 void Send_Param_Text() {
     MIDI_Send_Long(Sysex_Text_To_Bytes(Sysex_Param_Text));
+}
+
+// Literals, not the profile's header: parameters at patch level say 21 to every instrument.
+void Send_Patch_Level(std::size_t number, std::uint8_t value) {
+    Sysex_Param_Text = "F0 41 36 " + Channel_Token() + " 21 30 01 ";
+    Append_Pair(Sysex_Param_Text, number, value);
+    Sysex_Param_Text += End;
+    Send_Param_Text();
 }
 
 }  // namespace
@@ -78,13 +87,11 @@ void Juno_Send_Param(std::size_t parameter) {
 }
 
 void Patch_Send_Param(std::size_t parameter) {
-    if (!Automatic()) return;
-    if (parameter >= Patch_Size) throw Fatal_Error("Subscript out of range");
-    // Literals, not the profile's header: patch parameters say 21 to every instrument.
-    Sysex_Param_Text = "F0 41 36 " + Channel_Token() + " 21 30 01 ";
-    Append_Pair(Sysex_Param_Text, parameter, Patch_Data[parameter]);
-    Sysex_Param_Text += End;
-    Send_Param_Text();
+    if (Automatic()) Send_Patch_Level(parameter, Patch_Byte(parameter));
+}
+
+void Patch_MKS70_Param_Send(std::size_t index) {
+    if (Automatic()) Send_Patch_Level(index, Patch_MKS70_Byte(index));
 }
 
 void Tone_Name_Send() {

@@ -34,6 +34,7 @@ void Tone_Send();
 // is a programming mistake (Fatal_Error).
 void Editor_Send_Param(std::size_t parameter);
 void Patch_Send_Param(std::size_t parameter);
+void Patch_MKS70_Param_Send(std::size_t index);
 
 // The same for Juno_Data, but for a text that Sysex_Param_Text holds already, whoever wrote it: that one is
 // not sent again.
