@@ -9,6 +9,8 @@ Window Patch = {.name = "Patch"};
 Window Sequencer = {.name = "Sequencer"};
 Window MIDI_Setup = {.name = "MIDI_Setup"};
 Window TName = {.name = "TName"};
+Window File_Dlg = {.name = "File_Dlg"};
+Window Input_Dlg = {.name = "Input_Dlg"};
 
 Flag_8 Patch_Window_Open = Flag_8::False;
 Flag_8 Seq_Window_Open = Flag_8::False;
