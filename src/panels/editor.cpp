@@ -4,6 +4,7 @@
 
 #include "desk/timers.h"
 #include "panels/editor_printing.h"
+#include "sequencer/sequence.h"
 #include "synth/tone.h"
 #include "synth/tuning.h"
 #include "synth/views.h"
@@ -153,6 +154,11 @@ void Arrange() {
     Show_All(true);
 }
 
+void Set_Sequencer_Symbols(Picture_Store start, Picture_Store stop) {
+    Editor_Seq_Start_Pic.picture = Picture_Of(start);
+    Editor_Seq_Stop_Pic.picture = Picture_Of(stop);
+}
+
 void Set_Picture(Control& control, Picture_Store store, int item = 0) {
     control.picture = Picture_Of(store, item);
     const Picture_Role& role = Role_Of(control.picture);
@@ -288,6 +294,12 @@ void Editor_Install() {
     Panel_Apply_Tone = Apply_Tone;
     Editor_Arrange = Arrange;
     Editor_Conceal = Conceal;
+    Seq_Panel_Buttons_On = [] {
+        Set_Sequencer_Symbols(Picture_Store::Start_Enabled, Picture_Store::Stop_Enabled);
+    };
+    Seq_Panel_Buttons_Off = [] {
+        Set_Sequencer_Symbols(Picture_Store::Start_Disabled, Picture_Store::Stop_Disabled);
+    };
     Panel_Set_Knob("kn1", DCO1_Tune_Knopf,
                    [] { return 1.0 * Panel_Tune_From_Byte(Tone_Data[Parameter_DCO1_Tune]); });
     Panel_Set_Knob("kn2", DCO2_Tune_Knopf,

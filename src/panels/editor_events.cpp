@@ -7,6 +7,7 @@
 #include "panels/keyboard.h"
 #include "panels/push_buttons.h"
 #include "panels/steps.h"
+#include "sequencer/engine.h"
 #include "sequencer/sequence.h"
 #include "synth/messages.h"
 #include "synth/tone.h"

@@ -13,8 +13,7 @@ constexpr std::int16_t Chord_Velocity = 90;
 void Play_First_Column() {
     // A send that fails switches MIDI off; the rows behind it would each give a box of their own.
     for (int row = 0; row < Seq_Rows && MIDI_Enabled == 1; ++row) {
-        Seq_SendNote(static_cast<std::int16_t>(Seq_Base_Note + Seq_Rows - 1 - row),
-                     Seq_Notes[static_cast<std::size_t>(row)]);
+        Seq_SendNote(Seq_Row_Note(row), Seq_Notes[static_cast<std::size_t>(row)]);
     }
 }
 

@@ -35,6 +35,7 @@ void MIDI_Setup_Chosen() {
     if (MIDI_Enabled == 1 && Is_True(Seq_Running)) {
         Stop_Sequencer();
         MIDI_All_Notes_Off();
+        Button_Release(Editor_Seq_Start);
         if (Is_True(Seq_Window_Open)) Seq_Start_Raise();
     }
     if (App_Mode.empty()) Window_Show(MIDI_Setup);

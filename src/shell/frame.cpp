@@ -34,7 +34,6 @@ Answer Ask_To_Save(const char* question) {
 
 Hook<void()> Settings_Read;
 Hook<void()> Settings_Write;
-Hook<void()> Seq_New_Reset;
 Hook<void()> Patch_Lamps_Reset;
 Hook<void()> Juno_Show_Name;
 Hook<bool()> File_Wait_Ended;

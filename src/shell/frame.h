@@ -25,8 +25,6 @@ void Main_Display_Tick();
 // The settings' place in the start and the end.
 extern Hook<void()> Settings_Read;
 extern Hook<void()> Settings_Write;
-// The sequencer's: an empty sequence.
-extern Hook<void()> Seq_New_Reset;
 // The Patch window's: its two selected lamps go back to the first.
 extern Hook<void()> Patch_Lamps_Reset;
 // The Alpha Juno panel's: the name in its display, and the envelope's picture gone.

@@ -1,11 +1,9 @@
 #include "synth/random_tone.h"
 
-#include <chrono>
-#include <random>
-
 #include "desk/menus.h"
 #include "desk/windows.h"
 #include "platform/event_loop.h"
+#include "platform/random.h"
 #include "synth/messages.h"
 #include "synth/patch.h"
 #include "synth/profile.h"
@@ -18,21 +16,11 @@ namespace {
 
 constexpr double Parameter_Limit = 127;
 
-std::uint32_t Clock_Seed() {
-    return static_cast<std::uint32_t>(std::chrono::system_clock::now().time_since_epoch().count());
-}
-
 }  // namespace
 
-Hook<double()> Random_Number;
-
 void Tone_Random() {
-    std::mt19937 generator(Clock_Seed());
-    std::uniform_real_distribution<double> uniform;
-    const Random_Draw draw = [&](double limit) {
-        const double r = Random_Number.Filled() ? Random_Number() : uniform(generator);
-        return static_cast<std::uint8_t>(r * limit);
-    };
+    Random_Seed_By_Clock();
+    const Random_Draw draw = [](double limit) { return static_cast<std::uint8_t>(Random_Next() * limit); };
 
     if (!Is_True(Tone_Saved)) Undo_Store();
 

@@ -2,6 +2,7 @@
 #include "fakes/stage.h"
 #include "midi/in.h"
 #include "midi/out.h"
+#include "sequencer/engine.h"
 #include "sequencer/sequence.h"
 #include "synth/profile.h"
 #include "synth/tone.h"
@@ -273,9 +274,8 @@ TEST_F(The_Editor, start_button_runs_a_sequence_that_is_loaded_or_edited_and_sta
 }
 
 TEST_F(The_Editor, stop_button_ends_sequence_and_notes_and_frees_the_port) {
-    static int dark = 0;
     static int raised = 0;
-    Seq_Clock_Dark = [] { ++dark; };
+    Seq_Clock.fill(true);
     Seq_Start_Raise = [] { ++raised; };
     Seq_Loaded = Flag_8::True;
     Click("ED_Seq_Start");
@@ -293,7 +293,7 @@ TEST_F(The_Editor, stop_button_ends_sequence_and_notes_and_frees_the_port) {
     EXPECT_FALSE(Seq_Tmr.enabled);
     EXPECT_EQ(Seq_Running, Flag_8::False);
     EXPECT_EQ(Seq_Pos, 0);
-    EXPECT_EQ(dark, 1);
+    EXPECT_EQ(Seq_Clock, (std::array<bool, 8>{}));
     EXPECT_EQ(At("Keys_Pic").picture.item, Keys_Up);
     EXPECT_EQ(MIDI_Out_Handle, Port_Closed);
     EXPECT_EQ(Sent(), (Lines{"B0 7B 00", "B0 7B 00"}));

@@ -92,7 +92,7 @@ TEST_F(Screen_Check, ends_the_program_at_144_without_asking_about_work) {
 TEST_F(Screen_Check, ends_the_program_before_devices_and_settings) {
     Display.density = 97;
     Settings_Read = [] { ++Calls; };
-    Seq_New_Reset = [] { ++Calls; };
+    Seq_Panel_Buttons_Off = [] { ++Calls; };
     Settings_Write = [] {
         EXPECT_EQ(INI_File, "");
         Setting_Put("MIDI", "Channel", "9");

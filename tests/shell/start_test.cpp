@@ -46,7 +46,7 @@ void Watch_Steps() {
         Step("Settings_Read");
         Menu(Menu_MIDI_Seq_Load).checked = true;
     };
-    Seq_New_Reset = [] { Step("Seq_New_Reset"); };
+    Seq_Panel_Buttons_Off = [] { Step("Seq_New_Reset"); };
     Menu(Menu_File_Seq_1).chosen = [] { Step("Menu_File_Seq_1"); };
     Patch_Lamps_Reset = [] { Step("Patch lamps"); };
     Editor_Arrange = [] { Step("Sysex_Headers_Update"); };
@@ -141,7 +141,7 @@ TEST_F(Start_Up, clears_the_windows_flags_before_the_empty_sequence) {
     Patch_Window_Open = Flag_8::True;
     Seq_Window_Open = Flag_8::True;
     Seq_Running = Flag_8::True;
-    Seq_New_Reset = [] {
+    Seq_Panel_Buttons_Off = [] {
         ++Calls;
         EXPECT_EQ(Patch_Window_Open, Flag_8::False);
         EXPECT_EQ(Seq_Window_Open, Flag_8::False);

@@ -5,6 +5,7 @@
 #include "desk/windows.h"
 #include "fakes/stage.h"
 #include "midi/out.h"
+#include "platform/random.h"
 #include "synth/patch.h"
 #include "synth/profile.h"
 #include "synth/tone.h"
