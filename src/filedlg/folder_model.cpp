@@ -193,9 +193,8 @@ int FD_List_Files_Set_FileName(const std::string& typed) {
         return 0;
     }
     const auto& entries = FD_List_Files.entries;
-    const auto found = std::find_if(entries.begin(), entries.end(), [&name](const std::string& entry) {
-        return Same_Text(entry, name);
-    });
+    const auto found = std::find_if(entries.begin(), entries.end(),
+                                    [&name](const std::string& entry) { return Same_Text(entry, name); });
     if (found != entries.end()) FD_List_Files.index = static_cast<int>(found - entries.begin());
     return 0;
 }

@@ -1,8 +1,9 @@
-// The three lists of the file window as records: drives, folders and files. They show the disk as it was when
-// they were last told a path or refreshed; nothing here asks the user anything or throws.
+// The three lists of the file window as records: drives, folders and files. They show the disk as it was
+// when they were last told a path or refreshed; nothing here asks the user anything or throws.
 //
-// Setting a path gives 0 or the error number (errno) for which the list stayed as it was. Paths come as they
-// are stored, in any case; the lists hold them as they are written on the disk, without a final separator.
+// Setting a path gives 0 or the error number (errno) for which the list stayed as it was. Paths come as
+// they are stored, in any case; the lists hold them as they are written on the disk, without a final
+// separator.
 #pragma once
 
 #include <cstddef>
@@ -18,9 +19,9 @@ extern Drop_Down FD_List_Drives;
 struct Folder_List {
     std::string path;
     std::vector<std::string> entries = {};
-    int levels = 0;     // how many entries lead down to the path
-    int index = -1;     // the path itself after each listing
-    int revision = 0;   // moves on with each listing
+    int levels = 0;    // how many entries lead down to the path
+    int index = -1;    // the path itself after each listing
+    int revision = 0;  // moves on with each listing
 };
 extern Folder_List FD_List_Dirs;
 
@@ -47,8 +48,8 @@ void FD_List_Dirs_Refresh();  // a folder that has gone shows nothing below its 
 void FD_List_Files_Set_Pattern(const std::string& pattern);
 void FD_List_Files_Refresh();
 
-// What was typed as a name: a folder in it becomes the path, wildcards become the pattern, and a file that is
-// listed becomes the chosen one. A name that is not there is no error, a folder that is not there is.
+// What was typed as a name: a folder in it becomes the path, wildcards become the pattern, and a file that
+// is listed becomes the chosen one. A name that is not there is no error, a folder that is not there is.
 [[nodiscard]] int FD_List_Files_Set_FileName(const std::string& typed);
 
 // The entry at the list index; empty when there is none.

@@ -5,8 +5,9 @@
 
 #include <string>
 
-// The folder list goes to a path and the file list follows; so does the drive that is shown. 0, or the error
-// number (errno) for which everything stayed. When the medium goes between the two lists, the user is asked.
+// The folder list goes to a path and the file list follows; so does the drive that is shown. 0, or the
+// error number (errno) for which everything stayed. When the medium goes between the two lists, the user is
+// asked.
 [[nodiscard]] int FD_Go_To(const std::string& path);
 
 // A drive was chosen. One that is not ready gives a question, and its Cancel the drive before.

@@ -7,12 +7,12 @@
 namespace {
 
 // File systems that hold files without a device of their own.
-constexpr std::array<std::string_view, 8> Shares = {"nfs",        "nfs4", "cifs", "smb3",
+constexpr std::array<std::string_view, 8> Shares = {"nfs",        "nfs4", "cifs",  "smb3",
                                                     "fuse.sshfs", "9p",   "davfs", "virtiofs"};
 
 // Where the system keeps its own.
-constexpr std::array<std::string_view, 6> System_Folders = {"/proc", "/sys", "/dev", "/boot", "/snap",
-                                                            "/var/lib"};
+constexpr std::array<std::string_view, 6> System_Folders = {"/proc", "/sys",  "/dev",
+                                                            "/boot", "/snap", "/var/lib"};
 
 bool Lies_Under(std::string_view path, std::string_view folder) {
     return path.starts_with(folder) && (path.size() == folder.size() || path[folder.size()] == '/');

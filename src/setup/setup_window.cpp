@@ -6,28 +6,14 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include "desk/form_qt.h"
 #include "desk/windows.h"
 #include "platform/gate.h"
 #include "setup/setup.h"
 
 namespace {
-
-void Show_List(QComboBox& widget, const Drop_Down& record) {
-    const QSignalBlocker quiet(widget);
-    QStringList entries;
-    for (const std::string& entry : record.entries) entries << QString::fromStdString(entry);
-    QStringList shown;
-    for (int index = 0; index < widget.count(); ++index) shown << widget.itemText(index);
-    if (shown != entries) {
-        widget.clear();
-        widget.addItems(entries);
-    }
-    widget.setCurrentIndex(record.selected);
-    widget.setEnabled(record.enabled);
-}
 
 void Show_Box(QCheckBox& widget, const Check_Box& record) {
     widget.setChecked(record.checked);

@@ -8,6 +8,8 @@
 
 #include "desk/menus.h"
 #include "desk/windows.h"
+#include "filedlg/file_dlg_window.h"
+#include "filedlg/input_dlg_window.h"
 #include "panels/editor.h"
 #include "panels/editor_printing.h"
 #include "panels/panel_window.h"
@@ -72,6 +74,8 @@ struct Child_Row {
 constexpr Child_Row Children[] = {
     {MIDI_Setup, Make<Setup_Window>},
     {TName, Make<TName_Window>},
+    {File_Dlg, Make<File_Dlg_Window>},
+    {Input_Dlg, Make<Input_Dlg_Window>},
 };
 
 }  // namespace

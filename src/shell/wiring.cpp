@@ -1,6 +1,8 @@
 #include "shell/wiring.h"
 
 #include "desk/timers.h"
+#include "filedlg/file_dlg.h"
+#include "filedlg/input_dlg.h"
 #include "panels/controls.h"
 #include "panels/editor.h"
 #include "sequencer/engine.h"
@@ -17,6 +19,8 @@ void Program_Wire() {
     Sequencer_Install();
     Editor_Install();
     Setup_Install();
+    File_Dlg_Install();
+    Input_Install();
     Commands_Install();
     Tone_Commands_Install();
     Sequence_Commands_Install();

@@ -1,0 +1,17 @@
+#include "desk/form_qt.h"
+
+#include <QSignalBlocker>
+
+void Show_List(QComboBox& widget, const Drop_Down& record) {
+    const QSignalBlocker quiet(widget);
+    QStringList entries;
+    for (const std::string& entry : record.entries) entries << QString::fromStdString(entry);
+    QStringList shown;
+    for (int index = 0; index < widget.count(); ++index) shown << widget.itemText(index);
+    if (shown != entries) {
+        widget.clear();
+        widget.addItems(entries);
+    }
+    widget.setCurrentIndex(record.selected);
+    widget.setEnabled(record.enabled);
+}
