@@ -133,8 +133,9 @@ void FD_Preview_Start() {
         Enable_Lists(false);
     }
     if (Memory_Holds_None()) {
-        Option_Disable(FD_SYX_OB_Soundcheck[1]);
+        // In this order, as a disabled option would keep its lamp for when it is enabled.
         Option_Select(FD_SYX_OB_Soundcheck, 0);
+        Option_Disable(FD_SYX_OB_Soundcheck[1]);
         Show_Symbols(Picture_Store::Start_Disabled, Picture_Store::Stop_Disabled);
     } else {
         Option_Enable(FD_SYX_OB_Soundcheck[1]);

@@ -23,6 +23,7 @@
 #include "filedlg/preview.h"
 #include "filedlg/state.h"
 #include "midi/out.h"
+#include "sequencer/engine.h"
 #include "sequencer/sequence.h"
 #include "synth/syx_file.h"
 #include "synth/tone.h"
