@@ -282,6 +282,26 @@ def sequencer_key(black, pressed):
     return s
 
 
+def sequencer_cell(state):
+    """A cell of the matrix, or a running light: empty, light, loud, soft.
+    Loud fills the cell, soft leaves a rim: they differ without colour too."""
+    s = sheet(11, 11)
+    s.rect(0, 0, 11, 11, ink, 1.5)
+    if state == "empty":
+        s.rect(1, 1, 9, 9, "#2b2e34", 1)
+        s.rect(1, 1, 9, 1, "#202227")
+    elif state == "light":
+        s.rect(0, 0, 11, 11, amber, 1.5, fill_opacity=0.5)
+        s.rect(1, 1, 9, 9, s.down(1, 10, ["#fff2cc", "#ffc060", amber]), 1)
+    elif state == "loud":
+        s.rect(1, 1, 9, 9, s.down(1, 10, ["#b9f5ea", "#6fe3d2", teal]), 1)
+    else:
+        s.rect(1, 1, 9, 9, "#2b2e34", 1)
+        s.frame(1, 1, 9, 9, "#2f8478", 1)
+        s.rect(4, 4, 3, 3, "#8fe6da", 0.5)
+    return s
+
+
 # ---------------------------------------------------------------------------
 # Lamps.
 # ---------------------------------------------------------------------------
@@ -498,6 +518,11 @@ def letter(s, name, x, y, w, h, pen, colour):
         deep = y + h * 0.62
         fills = [slant(x + 0.1 * pen, over, x + w / 2, deep, pen * 1.2),
                  slant(right - 0.1 * pen, over, x + w / 2, deep, pen * 1.2)]
+    elif name == "W":
+        high = y + h * 0.38
+        fills = [slant(x + 0.1 * pen, under, x + w / 2, high, pen * 1.2),
+                 slant(right - 0.1 * pen, under, x + w / 2, high, pen * 1.2)]
+        strokes = [bent([(x, y), (x, low)], r), bent([(right, y), (right, low)], r)]
     elif name == "E":
         strokes = [bent([(right, y), (x, y)], r), left_stem,
                    bent([(x, low), (right, low)], r),
@@ -580,6 +605,13 @@ def caption_cancel():
     s = sheet(51, 20)
     word(s, [("C", 6, 0), ("a", 5, 3), ("n", 5, 3), ("c", 4, 3), ("e", 5, 3),
              ("l", 0, 0)], 4, 5, 13, 2, 2, printing)
+    return s
+
+
+def caption_new():
+    """The word NEW, for the key over the sequencer's keys."""
+    s = sheet(22, 7)
+    word(s, [("N", 4, 0), ("E", 3, 0), ("W", 6, 0)], 0, 0, 7, 1, 2, ink)
     return s
 
 
@@ -687,6 +719,11 @@ def all_pictures():
         "dlg2_dn": push_button(65, 34, True, 3),
         "dlg2_ok": caption_ok(),
         "dlg2_cancel": caption_cancel(),
+        "seq_pics_0": sequencer_cell("empty"),
+        "seq_pics_1": sequencer_cell("light"),
+        "seq_pics_2": sequencer_cell("loud"),
+        "seq_pics_3": sequencer_cell("soft"),
+        "seq_new": caption_new(),
         "back_pic": ground_tile(),
         "pic_tonebench": logo(),
         "pic_sign": sign(),

@@ -3,12 +3,13 @@
 #pragma once
 
 #include <QDialog>
+#include <QMainWindow>
 
 #include "desk/windows.h"
 
 class Child_Window : public QDialog {
   public:
-    Child_Window(Window& record, QWidget* parent);
+    Child_Window(Window& record, QMainWindow* parent);
 
     // Brings the contents up to the records, and the window onto the screen or off it.
     void Show_Changes();
@@ -26,9 +27,12 @@ class Child_Window : public QDialog {
     void moveEvent(QMoveEvent* event) override;
 
   private:
+    QPoint Origin() const;  // of the record's place, on the screen
     void Show_Place();
+    void Take_Place();
 
     Window& record_;
+    QMainWindow* main_;
     QPoint agreed_;  // the place as record and screen last agreed on it
     int times_raised_ = 0;
 };

@@ -15,3 +15,8 @@ void Show_List(QComboBox& widget, const Drop_Down& record) {
     widget.setCurrentIndex(record.selected);
     widget.setEnabled(record.enabled);
 }
+
+void Show_Box(QCheckBox& widget, const Check_Box& record) {
+    widget.setChecked(record.checked);
+    widget.setEnabled(record.enabled);
+}

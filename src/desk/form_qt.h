@@ -1,9 +1,10 @@
-// The stock controls on the screen.
+// Stock controls on the screen, brought up to their records.
 #pragma once
 
+#include <QCheckBox>
 #include <QComboBox>
 
 #include "desk/form.h"
 
-// Brings a drop-down list up to its record.
 void Show_List(QComboBox& widget, const Drop_Down& record);
+void Show_Box(QCheckBox& widget, const Check_Box& record);

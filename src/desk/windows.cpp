@@ -1,12 +1,29 @@
 #include "desk/windows.h"
 
+#include <algorithm>
+
+#include "desk/screen.h"
+
+namespace {
+
+int Pixels(std::int16_t twips) {
+    return Narrow<int>(twips / Twips_Per_Pixel());
+}
+
+std::int16_t Nearest_Twips(int pixels) {
+    constexpr std::numeric_limits<std::int16_t> Limits;
+    return To_Int16(std::clamp<double>(pixels * Twips_Per_Pixel(), Limits.min(), Limits.max()));
+}
+
+}  // namespace
+
 // The main window's size is that of a first start: just large enough for a panel of 528 by 456 pixels
 // with border and menu.
 Window Main_Window = {.name = "Tonebench", .width = 541, .height = 508};
-Window Editor = {.name = "Editor"};
-Window Editor_Juno = {.name = "Editor_Juno"};
-Window Patch = {.name = "Patch"};
-Window Sequencer = {.name = "Sequencer"};
+Window Editor = {.name = "Editor", .inside = true};
+Window Editor_Juno = {.name = "Editor_Juno", .inside = true};
+Window Patch = {.name = "Patch", .inside = true};
+Window Sequencer = {.name = "Sequencer", .inside = true};
 Window MIDI_Setup = {.name = "MIDI_Setup"};
 Window TName = {.name = "TName"};
 Window File_Dlg = {.name = "File_Dlg"};
@@ -20,10 +37,25 @@ std::int16_t Patch_Top = 0;
 std::int16_t Seq_Window_Left = 0;
 std::int16_t Seq_Window_Top = 0;
 
+void Window_Place(Window& window, std::int16_t left_twips, std::int16_t top_twips) {
+    window.left = Pixels(left_twips);
+    window.top = Pixels(top_twips);
+}
+
+void Window_Keep_Place(const Window& window, std::int16_t& left_twips, std::int16_t& top_twips) {
+    left_twips = Nearest_Twips(window.left);
+    top_twips = Nearest_Twips(window.top);
+}
+
 void Window_Load(Window& window) {
     if (window.loaded) return;
     window.loaded = true;
-    window.load();
+    try {
+        window.load();
+    } catch (...) {
+        window.loaded = false;
+        throw;
+    }
 }
 
 void Window_Show(Window& window) {
@@ -48,4 +80,12 @@ void Window_Unload(Window& window) {
 void Window_Centre_Over_Main(Window& window) {
     window.left = Main_Window.left + (Main_Window.width - window.width) / 2;
     window.top = Main_Window.top + (Main_Window.height - window.height) / 2;
+}
+
+std::vector<Window*> Windows_Inside() {
+    std::vector<Window*> open;
+    for (Window* window : {&Editor, &Editor_Juno, &Patch, &Sequencer}) {
+        if (window->loaded && window->visible) open.push_back(window);
+    }
+    return open;
 }

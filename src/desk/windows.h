@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "platform/hook.h"
 #include "platform/numbers.h"
@@ -26,10 +27,11 @@ struct Window {
     bool visible = false;
     bool enabled = true;
     Pointer pointer = Pointer::Default;
-    int left = 0;  // pixels; the main window's on the screen, a panel's in the main window's client area
+    int left = 0;  // pixels on the screen
     int top = 0;
     int width = 0;
     int height = 0;
+    bool inside = false;  // left and top count from the corner of the main window's client area
     Window_State state = Window_State::Normal;
     int times_raised = 0;               // each count brings the window to the front once
     Control* active_control = nullptr;  // the control of the window that has the focus
@@ -61,6 +63,11 @@ extern std::int16_t Patch_Top;
 extern std::int16_t Seq_Window_Left;
 extern std::int16_t Seq_Window_Top;
 
+// For a window that stands open: bring it to its remembered place, and remember its place. What 16 bits of
+// twips cannot hold is kept as near as they can.
+void Window_Place(Window& window, std::int16_t left_twips, std::int16_t top_twips);
+void Window_Keep_Place(const Window& window, std::int16_t& left_twips, std::int16_t& top_twips);
+
 void Window_Load(Window& window);
 
 // Loads the window if need be, makes it visible and brings it to the front.
@@ -73,3 +80,6 @@ void Window_Unload(Window& window);
 // The common place of dialog-like windows: half the difference of the two sizes, measured from the main
 // window's place.
 void Window_Centre_Over_Main(Window& window);
+
+// The windows that stand open inside the frame, for the list under Menu_Windows.
+std::vector<Window*> Windows_Inside();

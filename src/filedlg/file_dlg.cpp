@@ -1,12 +1,10 @@
 #include "filedlg/file_dlg.h"
 
-#include <algorithm>
 #include <array>
 
 #include "desk/dialog_lock.h"
 #include "desk/folders.h"
 #include "desk/menus.h"
-#include "desk/screen.h"
 #include "desk/timers.h"
 #include "desk/windows.h"
 #include "filedlg/file_controls.h"
@@ -72,15 +70,10 @@ std::string* Remembered_Folder() {
 
 // -- load and unload -------------------------------------------------------------------------------------
 
-std::int16_t In_Twips(int pixels) {
-    // Beyond 16 bits there is no place to remember: the nearest one then.
-    return To_Int16(std::clamp(pixels * Twips_Per_Pixel(), -32768.0, 32767.0));
-}
-
 void Place() {
-    const bool remembered = Menu(Menu_Windows_SavePos).checked;
-    File_Dlg.left = remembered ? Narrow<int>(FD_Left / Twips_Per_Pixel()) : 0;
-    File_Dlg.top = remembered ? Narrow<int>(FD_Top / Twips_Per_Pixel()) : 0;
+    File_Dlg.left = 0;
+    File_Dlg.top = 0;
+    if (Menu(Menu_Windows_SavePos).checked) Window_Place(File_Dlg, FD_Left, FD_Top);
     File_Dlg.width = File_Dlg_Width;
     File_Dlg.height = File_Dlg_Height;
 }
@@ -112,10 +105,7 @@ void Unload() {
     FD_Preview_End();
     if (std::string* folder = Remembered_Folder()) *folder = FD_List_Files.path;
     Menus_Enable();
-    if (Menu(Menu_Windows_SavePos).checked) {
-        FD_Left = In_Twips(File_Dlg.left);
-        FD_Top = In_Twips(File_Dlg.top);
-    }
+    if (Menu(Menu_Windows_SavePos).checked) Window_Keep_Place(File_Dlg, FD_Left, FD_Top);
     Dialog_End();
     FD_Open = Flag_16::False;
 }

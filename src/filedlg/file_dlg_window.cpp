@@ -90,7 +90,7 @@ QComboBox* File_Dlg_Window::List(const char* name, const char* spoken, QRect pla
     return list;
 }
 
-File_Dlg_Window::File_Dlg_Window(QWidget* parent) : Child_Window(File_Dlg, parent) {
+File_Dlg_Window::File_Dlg_Window(QMainWindow* parent) : Child_Window(File_Dlg, parent) {
     Build_Lists();
     Build_Panels();
     Build_Controls();

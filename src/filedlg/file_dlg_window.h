@@ -15,7 +15,7 @@ struct Lamp;
 
 class File_Dlg_Window : public Child_Window {
   public:
-    explicit File_Dlg_Window(QWidget* parent);
+    explicit File_Dlg_Window(QMainWindow* parent);
 
   protected:
     void Show_Contents() override;

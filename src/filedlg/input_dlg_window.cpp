@@ -29,7 +29,7 @@ QString Prompt_Text(const std::string& prompt) {
 
 }  // namespace
 
-Input_Dlg_Window::Input_Dlg_Window(QWidget* parent)
+Input_Dlg_Window::Input_Dlg_Window(QMainWindow* parent)
     : Child_Window(Input_Dlg, parent), message_(new QLabel(this)), text_(new QLineEdit(this)) {
     setWindowModality(Qt::ApplicationModal);
     message_->setObjectName("Input_Msg");

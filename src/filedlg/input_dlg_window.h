@@ -8,7 +8,7 @@ class QLineEdit;
 
 class Input_Dlg_Window : public Child_Window {
   public:
-    explicit Input_Dlg_Window(QWidget* parent);
+    explicit Input_Dlg_Window(QMainWindow* parent);
 
   protected:
     void Show_Contents() override;

@@ -11,11 +11,6 @@
 
 namespace {
 
-Mouse_Button Button_Of(Qt::MouseButton button) {
-    if (button == Qt::LeftButton) return Mouse_Button::Left;
-    return button == Qt::RightButton ? Mouse_Button::Right : Mouse_Button::Other;
-}
-
 bool Is_Bare_Modifier(int key) {
     return key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock;
 }
@@ -46,6 +41,11 @@ QAccessibleInterface* Make_Spoken(const QString&, QObject* object) {
 }
 
 }  // namespace
+
+Mouse_Button Mouse_Button_Of(Qt::MouseButton button) {
+    if (button == Qt::LeftButton) return Mouse_Button::Left;
+    return button == Qt::RightButton ? Mouse_Button::Right : Mouse_Button::Other;
+}
 
 void Control_Widgets_Speak() {
     QAccessible::installFactory(Make_Spoken);
@@ -146,7 +146,7 @@ void Control_Widget::Take_Focus() {
 
 void Control_Widget::mousePressEvent(QMouseEvent* event) {
     Take_Focus();
-    Guarded_Event([&] { panel_.events.button_pressed(record_, Button_Of(event->button())); });
+    Guarded_Event([&] { panel_.events.button_pressed(record_, Mouse_Button_Of(event->button())); });
 }
 
 void Control_Widget::mouseMoveEvent(QMouseEvent* event) {
@@ -155,7 +155,7 @@ void Control_Widget::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void Control_Widget::mouseReleaseEvent(QMouseEvent* event) {
-    Guarded_Event([&] { panel_.events.button_released(record_, Button_Of(event->button())); });
+    Guarded_Event([&] { panel_.events.button_released(record_, Mouse_Button_Of(event->button())); });
     if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
         Guarded_Event([&] { panel_.events.clicked(record_); });
     }

@@ -35,5 +35,7 @@ class Control_Widget : public QWidget {
     Control shown_;  // the record as it was last shown
 };
 
+Mouse_Button Mouse_Button_Of(Qt::MouseButton button);
+
 // Makes the widgets' spoken names known to screen readers. Called once.
 void Control_Widgets_Speak();

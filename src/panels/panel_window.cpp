@@ -1,15 +1,13 @@
 #include "panels/panel_window.h"
 
 #include <QEvent>
-#include <QPainter>
 #include <utility>
 
 #include "panels/control_widget.h"
-#include "panels/pictures_qt.h"
 #include "platform/gate.h"
 
 Panel_Window::Panel_Window(const Panel& panel, Printing printing, QWidget* parent)
-    : QWidget(parent), panel_(panel), printing_(std::move(printing)) {
+    : QWidget(parent), panel_(panel), ground_(std::move(printing)) {
     setObjectName(panel.window->name);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::NoFocus);
@@ -53,14 +51,7 @@ void Panel_Window::Give_Focus_Back() {
 }
 
 void Panel_Window::paintEvent(QPaintEvent*) {
-    if (ground_.isNull() || ground_.devicePixelRatio() != devicePixelRatioF()) {
-        ground_ = QPixmap(size() * devicePixelRatioF());
-        ground_.setDevicePixelRatio(devicePixelRatioF());
-        ground_.fill(Ink_Colour(Ink::Ground));
-        QPainter print(&ground_);
-        Paint_Printing(print, printing_);
-    }
-    QPainter(this).drawPixmap(0, 0, ground_);
+    ground_.Paint(*this);
 }
 
 bool Panel_Window::event(QEvent* event) {

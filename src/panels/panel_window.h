@@ -2,12 +2,11 @@
 // go to the panel's handlers, and what the records say is what is shown.
 #pragma once
 
-#include <QPixmap>
 #include <QWidget>
 #include <vector>
 
 #include "panels/panel.h"
-#include "panels/printing.h"
+#include "panels/pictures_qt.h"
 
 class Control_Widget;
 
@@ -27,8 +26,7 @@ class Panel_Window : public QWidget {
     void Give_Focus_Back();
 
     const Panel& panel_;
-    Printing printing_;
-    QPixmap ground_;  // printed once for each device pixel ratio
+    Printed_Ground ground_;
     std::vector<Control_Widget*> widgets_;
     int times_raised_ = 0;
 };

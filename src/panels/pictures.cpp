@@ -24,6 +24,8 @@ constexpr std::array Roles = {
     Picture_Role{Picture_Store::Stop_Disabled,    "stop_disabled",     0,    0,    14,    14},
     Picture_Role{Picture_Store::Record,           "record",            0,    0,    14,    14},
     Picture_Role{Picture_Store::Seq_Keys,         "seq_keys",          0,    3,    38,    12},
+    Picture_Role{Picture_Store::Seq_Pics,         "seq_pics",          0,    3,    11,    11},
+    Picture_Role{Picture_Store::Seq_New,          "seq_new",           0,    0,    22,     7},
     Picture_Role{Picture_Store::CB_Pics,          "cb_pics",           0,    3,    13,    13},
     Picture_Role{Picture_Store::OB_Pics,          "ob_pics",           0,    3,    12,    12},
     Picture_Role{Picture_Store::Dlg2_Up,          "dlg2_up",           0,    0,    65,    34},

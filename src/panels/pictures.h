@@ -19,6 +19,8 @@ enum class Picture_Store {
     Stop_Disabled,
     Record,
     Seq_Keys,
+    Seq_Pics,  // 0 empty cell and light off, 1 light on, 2 loud cell, 3 soft cell
+    Seq_New,   // symbol on the sequencer's New key
     CB_Pics,
     OB_Pics,
     Dlg2_Up,

@@ -4,6 +4,7 @@
 #include <QFontDatabase>
 #include <QPolygonF>
 #include <QSvgRenderer>
+#include <QWidget>
 #include <map>
 #include <tuple>
 
@@ -99,4 +100,16 @@ void Paint_Printing(QPainter& painter, const Printing& printing) {
         if (text.align == Align::Right) left -= width;
         painter.drawText(QPointF(left, text.at.y), letters);
     }
+}
+
+void Printed_Ground::Paint(QWidget& window) {
+    const qreal ratio = window.devicePixelRatioF();
+    if (drawn_.isNull() || drawn_.devicePixelRatio() != ratio) {
+        drawn_ = QPixmap(window.size() * ratio);
+        drawn_.setDevicePixelRatio(ratio);
+        drawn_.fill(Ink_Colour(Ink::Ground));
+        QPainter print(&drawn_);
+        Paint_Printing(print, printing_);
+    }
+    QPainter(&window).drawPixmap(0, 0, drawn_);
 }

@@ -4,6 +4,7 @@
 #include <QColor>
 #include <QPainter>
 #include <QPixmap>
+#include <utility>
 
 #include "panels/pictures.h"
 #include "panels/printing.h"
@@ -20,3 +21,14 @@ QColor Ink_Colour(Ink ink);
 QFont Printing_Font(double pixels);
 
 void Paint_Printing(QPainter& painter, const Printing& printing);
+
+// A window's ground with its printing, drawn once for each device pixel ratio.
+class Printed_Ground {
+  public:
+    explicit Printed_Ground(Printing printing) : printing_(std::move(printing)) {}
+    void Paint(QWidget& window);
+
+  private:
+    Printing printing_;
+    QPixmap drawn_;
+};

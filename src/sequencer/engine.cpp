@@ -29,6 +29,9 @@ void Draw_Direction() {
 }
 
 void Send_Step() {
+    // A run that began with MIDI off, or lost its port, goes on silently; switched on again, MIDI finds the
+    // port closed.
+    MIDI_Out_Open();
     for (int row = 0; row < Seq_Rows; ++row) {
         // A send that fails switches MIDI off; the rows behind it would each give a box of their own.
         if (MIDI_Enabled != 1) return;

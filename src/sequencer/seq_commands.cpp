@@ -16,11 +16,11 @@ Answer Ask_To_Save() {
 Hook<void()> Seq_Save_As;
 Hook<void()> Seq_Open;
 
-bool File_Seq_New_Chosen() {
-    const bool asked = !Is_True(Seq_Saved);
-    if (asked) {
+void File_Seq_New_Chosen(Hook<void()> answered) {
+    if (!Is_True(Seq_Saved)) {
         const Answer answer = Ask_To_Save();
-        if (answer == Answer::Cancel) return asked;
+        answered();
+        if (answer == Answer::Cancel) return;
         if (answer == Answer::No) Seq_Saved = Flag_8::True;
         if (answer == Answer::Yes) {
             Seq_Save_As();
@@ -28,7 +28,6 @@ bool File_Seq_New_Chosen() {
         }
     }
     if (Is_True(Seq_Saved)) Seq_New_Reset();
-    return asked;
 }
 
 void File_Seq_Open_Chosen() {

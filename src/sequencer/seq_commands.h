@@ -4,8 +4,8 @@
 #include "platform/hook.h"
 
 // Asks about unsaved edits first and then empties the sequence, unless the user gave up or nothing was
-// saved. True when the question was shown.
-bool File_Seq_New_Chosen();
+// saved. `answered` runs as soon as the question has its answer; not when there was nothing to ask.
+void File_Seq_New_Chosen(Hook<void()> answered = {});
 
 void File_Seq_Open_Chosen();             // asks likewise, then opens the file window
 void File_Seq_Save_Chosen();             // to the current file, or by Save As when there is none

@@ -25,7 +25,7 @@ enum Seq_Picture : int {
     Seq_Loud_Picture = 2,
     Seq_Soft_Picture = 3
 };
-inline int Seq_Cell_Picture(std::int16_t velocity) {
+inline Seq_Picture Seq_Cell_Picture(std::int16_t velocity) {
     if (velocity == Seq_Loud) return Seq_Loud_Picture;
     return velocity == Seq_Soft ? Seq_Soft_Picture : Seq_Empty_Picture;
 }

@@ -1,7 +1,5 @@
 #include "setup/setup_window.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -14,11 +12,6 @@
 #include "setup/setup.h"
 
 namespace {
-
-void Show_Box(QCheckBox& widget, const Check_Box& record) {
-    widget.setChecked(record.checked);
-    widget.setEnabled(record.enabled);
-}
 
 void Add_Row(QGridLayout& grid, const char* name, const char* text, QComboBox* list) {
     auto* label = new QLabel(text);
@@ -49,7 +42,7 @@ QCheckBox* Setup_Window::Box(const char* name, const char* caption, void (*click
     return box;
 }
 
-Setup_Window::Setup_Window(QWidget* parent) : Child_Window(MIDI_Setup, parent) {
+Setup_Window::Setup_Window(QMainWindow* parent) : Child_Window(MIDI_Setup, parent) {
     synthesizer_type_ = List("SynthesizerType", Setup_SynthesizerType_Change);
     output_devices_ = List("Output_Devices", Setup_Output_Change);
     input_devices_ = List("Input_Devices", Setup_Input_Change);

@@ -9,7 +9,7 @@ class QPushButton;
 
 class Setup_Window : public Child_Window {
   public:
-    explicit Setup_Window(QWidget* parent);
+    explicit Setup_Window(QMainWindow* parent);
 
   protected:
     void Show_Contents() override;

@@ -1,5 +1,6 @@
 #include "shell/app_window.h"
 
+#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
@@ -15,6 +16,7 @@
 #include "panels/panel_window.h"
 #include "panels/pictures_qt.h"
 #include "platform/gate.h"
+#include "seqwin/seqwin_window.h"
 #include "setup/setup_window.h"
 #include "shell/frame.h"
 #include "tname/tname_window.h"
@@ -61,27 +63,29 @@ Qt::WindowState Toolkit_State(Window_State state) {
 }
 
 template <class Kind>
-Child_Window* Make(QWidget* parent) {
+Child_Window* Make(QMainWindow* parent) {
     return new Kind(parent);
 }
 
 struct Child_Row {
     Window& record;
-    Child_Window* (*make)(QWidget* parent);
+    Child_Window* (*make)(QMainWindow* parent);
 };
 
 // The windows over the main one.
 constexpr Child_Row Children[] = {
-    {MIDI_Setup, Make<Setup_Window>},
-    {TName, Make<TName_Window>},
-    {File_Dlg, Make<File_Dlg_Window>},
+    {MIDI_Setup, Make<Setup_Window>},    {TName, Make<TName_Window>},
+    {Sequencer, Make<Sequencer_Window>}, {File_Dlg, Make<File_Dlg_Window>},
     {Input_Dlg, Make<Input_Dlg_Window>},
 };
 
 }  // namespace
 
 App_Window::App_Window()
-    : ground_(new Ground(this)), children_(std::size(Children)), agreed_(Wanted_Place()) {
+    : ground_(new Ground(this)),
+      children_(std::size(Children)),
+      list_(new QActionGroup(this)),
+      agreed_(Wanted_Place()) {
     setObjectName(Main_Window.name);
     setCentralWidget(ground_);
     setMinimumSize(Smallest_Frame);
@@ -109,6 +113,8 @@ void App_Window::Build_Menus() {
             action = open_menus.back()->addAction("");
             action->setSeparator(Is_Separator(entry));
             action->setShortcut(QKeySequence(entry.shortcut));
+            // The windows over this one are parts of it, and have no menu of their own.
+            action->setShortcutContext(Qt::ApplicationShortcut);
             connect(action, &QAction::triggered, [&entry] { Guarded_Event([&entry] { entry.chosen(); }); });
         }
         action->setObjectName(entry.name);
@@ -126,6 +132,25 @@ void App_Window::Show_Menus() {
         action.setEnabled(entry.enabled);
         if (entry.checked) action.setCheckable(true);
         if (action.isCheckable()) action.setChecked(entry.checked);
+    }
+}
+
+// The windows inside the frame, below the entries of Menu_Windows; choosing one brings it to the front.
+void App_Window::Show_Window_List() {
+    const std::vector<Window*> open = Windows_Inside();
+    std::vector<std::string> captions;
+    for (const Window* window : open) captions.push_back(window->caption);
+    if (captions == listed_) return;
+    listed_ = captions;
+    QMenu* menu = entries_[Menu_Windows]->menu();
+    qDeleteAll(list_->actions());
+    list_->addAction(menu->addSeparator());
+    for (std::size_t place = 0; place < open.size(); ++place) {
+        QString caption = QString::fromStdString(captions[place]);
+        caption.replace("&", "&&");
+        QAction* entry = list_->addAction(menu->addAction(QString("&%1 %2").arg(place + 1).arg(caption)));
+        connect(entry, &QAction::triggered,
+                [window = open[place]] { Guarded_Event([window] { Window_Show(*window); }); });
     }
 }
 
@@ -162,6 +187,7 @@ void App_Window::Show_Changes() {
         setWindowTitle(QString::fromStdString(Main_Window.caption));
         if (cursor().shape() != Shape_Of(Main_Window.pointer)) setCursor(Shape_Of(Main_Window.pointer));
         Show_Menus();
+        Show_Window_List();
         Show_Panels();
         Show_Place();
         Show_Frame();

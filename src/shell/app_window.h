@@ -8,6 +8,7 @@
 #include "desk/windows.h"
 
 class Child_Window;
+class QActionGroup;
 class Panel_Window;
 
 class App_Window : public QMainWindow {
@@ -27,6 +28,7 @@ class App_Window : public QMainWindow {
   private:
     void Build_Menus();
     void Show_Menus();
+    void Show_Window_List();
     void Show_Panels();
     void Show_Children();
     void Show_Place();
@@ -45,6 +47,8 @@ class App_Window : public QMainWindow {
     Panel_Window* editor_ = nullptr;
     std::vector<Child_Window*> children_;  // one for each row of Children, null until it is needed
     std::vector<QAction*> entries_;        // one for each row of Menu_Tree
+    std::vector<std::string> listed_;      // the windows that the list shows, by their captions
+    QActionGroup* list_;
     Place agreed_;
     bool showing_ = false;
     bool changed_meanwhile_ = false;

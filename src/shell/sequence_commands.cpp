@@ -4,7 +4,7 @@
 #include "sequencer/seq_commands.h"
 
 void Sequence_Commands_Install() {
-    Menu(Menu_File_Seq_New).chosen = [] { (void)File_Seq_New_Chosen(); };
+    Menu(Menu_File_Seq_New).chosen = [] { File_Seq_New_Chosen(); };
     Menu(Menu_File_Seq_Open).chosen = File_Seq_Open_Chosen;
     Menu(Menu_File_Seq_Save).chosen = File_Seq_Save_Chosen;
     Menu(Menu_File_Seq_SaveAs).chosen = [] { Seq_Save_As(); };

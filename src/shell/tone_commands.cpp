@@ -5,6 +5,7 @@
 #include "desk/recent.h"
 #include "desk/timers.h"
 #include "filedlg/file_dlg.h"
+#include "midi/in.h"
 #include "midi/out.h"
 #include "panels/editor.h"
 #include "panels/push_buttons.h"
@@ -68,6 +69,11 @@ void File_SYX_Opened() {
     Button_Release(Editor_Seq_Start);
 }
 
+void Tone_Receive_Chosen() {
+    Panel_Restore_Picture();
+    if (Tone_May_Go(Buttons_Set::Yes_No)) MIDI_Receive_Toggle();
+}
+
 void Tone_Commands_Install() {
     Menu(Menu_File_SYX).opened = File_SYX_Opened;
     Menu(Menu_File_SYX_New).chosen = File_SYX_New_Chosen;
@@ -81,6 +87,7 @@ void Tone_Commands_Install() {
     Menu(Menu_File_SYX_4).chosen = [] { Open_Recent(4); };
     Menu(Menu_Edit_Undo).chosen = Undo_Restore;
     Menu(Menu_Tone_Random).chosen = Tone_Random;
+    Menu(Menu_Tone_Receive).chosen = Tone_Receive_Chosen;
 }
 
 void Name_Command_Install() {

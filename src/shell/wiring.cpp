@@ -6,6 +6,7 @@
 #include "panels/controls.h"
 #include "panels/editor.h"
 #include "sequencer/engine.h"
+#include "seqwin/seqwin.h"
 #include "setup/setup.h"
 #include "shell/commands.h"
 #include "shell/frame.h"
@@ -18,6 +19,7 @@ void Program_Wire() {
     Controls_Install();
     Sequencer_Install();
     Editor_Install();
+    Seqwin_Install();
     Setup_Install();
     File_Dlg_Install();
     Input_Install();

@@ -7,7 +7,7 @@ class QLineEdit;
 
 class TName_Window : public Child_Window {
   public:
-    explicit TName_Window(QWidget* parent);
+    explicit TName_Window(QMainWindow* parent);
 
   protected:
     void Show_Contents() override;

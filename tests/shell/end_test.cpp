@@ -93,7 +93,12 @@ void Watch_Saving() {
 
 class Program_End : public Started_Stage {
   protected:
-    Program_End() { Watch_Saving(); }
+    Program_End() {
+        Watch_Saving();
+        // A window without its own manners: what the end does about it is looked at here.
+        Sequencer.load = {};
+        Sequencer.unload = {};
+    }
 };
 
 TEST_F(Program_End, is_refused_or_not_by_each_pair_of_answers) {

@@ -144,6 +144,80 @@ TEST_F(Settings_Whole, leave_foreign_lines_and_the_devices_alone) {
     EXPECT_NE(text.find("\n[Other]\nx=1\n"), std::string::npos);
 }
 
+TEST_F(Settings_Whole, keep_every_foreign_line_in_its_place_among_their_own) {
+    fs::create_directory(here_ + "/Tones");
+    Touch("Here/Tones/a.syx");
+    Write_Settings(
+        "; a comment in front\n"
+        "[Other]\n"
+        "Left=77\n"
+        "\n"
+        "[midi]\n"
+        "; in a section of ours\n"
+        "Output=Synth Out\n"
+        "Colour = blue\n"
+        "autosend=0\n"
+        "Input=Keys In\n"
+        "SYNTHESIZER=MKS-70\n"
+        "a line without a sign\n"
+        "[Windows]\n"
+        "Save Positions=1\n"
+        "Patch Left=10\n"
+        "[Recent Files]\n"
+        "Tones=" +
+        here_ +
+        "/Tones/\n"
+        "[Last]\n"
+        "x=1");
+    Settings_Read();
+    Settings_Write();
+    const std::string here = Lower_Text(here_);
+    EXPECT_EQ(Read_Settings(),
+              "; a comment in front\n"
+              "[Other]\n"
+              "Left=77\n"
+              "\n"
+              "[midi]\n"
+              "; in a section of ours\n"
+              "Output=Synth Out\n"
+              "Colour = blue\n"
+              "autosend=0\n"
+              "Input=Keys In\n"
+              "SYNTHESIZER=MKS-70\n"
+              "a line without a sign\n"
+              "Autoplay=1\n"
+              "Sequence Preload=0\n"
+              "Soundcheck=0\n"
+              "Soundcheck Note=24\n"
+              "Soundcheck Velocity=80\n"
+              "Channel=1\n"
+              "Control Channel=[Not used]\n"
+              "[Windows]\n"
+              "Save Positions=1\n"
+              "Patch Left=10\n"
+              "File Dialog Left=0\n"
+              "File Dialog Top=0\n"
+              "Patch Top=0\n"
+              "Sequencer Left=0\n"
+              "Sequencer Top=0\n"
+              "[Recent Files]\n"
+              "Tones=" +
+                  here +
+                  "/tones/\n"
+                  "Sequences=" +
+                  here_ +
+                  "/\n"
+                  "Oscillators=" +
+                  here_ +
+                  "/\n"
+                  "Tone1=\nTone2=\nTone3=\nTone4=\n"
+                  "Sequence1=\nSequence2=\nSequence3=\nSequence4=\n"
+                  "[Last]\n"
+                  "x=1\n"
+                  "[Main Window]\n"
+                  "Left=0\nTop=0\nWidth=541\nHeight=508\nState=0\n");
+}
+
 TEST_F(Settings_Whole, let_pending_events_run_behind_the_writing) {
     static std::string meanwhile;
     At_Next_Turn([] { meanwhile = Read_Settings(); });

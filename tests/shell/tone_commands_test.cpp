@@ -7,6 +7,7 @@
 #include "desk/windows.h"
 #include "fakes/stage.h"
 #include "filedlg/state.h"
+#include "midi/in.h"
 #include "midi/out.h"
 #include "sequencer/sequence.h"
 #include "shell/frame.h"
@@ -97,6 +98,35 @@ TEST_F(Tone_Command, new_ends_when_save_as_was_left_without_saving) {
     EXPECT_EQ(Saves, 1) << "Save As, although the tone has a file";
     EXPECT_EQ(Tone_Saved, Flag_16::False);
     Expect_Old_Tone();
+}
+
+// -- Receive ---------------------------------------------------------------------------------------------
+
+TEST_F(Tone_Command, receive_enters_the_mode_with_the_focus_mark_at_rest) {
+    static int toggled = 0;
+    MIDI_Receive_Toggle = [] {
+        ++toggled;
+        EXPECT_EQ(Panel_Current_Control->picture.item % 2, 0);
+    };
+    Panel_Blink_Phase = 1;
+    Panel_Blink();
+    Choose(Menu_Tone_Receive);
+    EXPECT_EQ(toggled, 1);
+    EXPECT_TRUE(Boxes.empty());
+}
+
+TEST_F(Tone_Command, receive_asks_about_an_unsaved_tone_with_yes_and_no) {
+    static int toggled = 0;
+    MIDI_Receive_Toggle = [] { ++toggled; };
+    Tone_Saved = Flag_16::False;
+    Answer_With(Save_Tone, Answer::Yes);
+    Choose(Menu_Tone_Receive);
+    Expect_Question(Buttons_Set::Yes_No);
+    EXPECT_EQ(Saves, 1);
+    EXPECT_EQ(toggled, 0) << "the save was left without saving";
+    Answer_With(Save_Tone, Answer::No);
+    Choose(Menu_Tone_Receive);
+    EXPECT_EQ(toggled, 1);
 }
 
 // -- Open ------------------------------------------------------------------------------------------------

@@ -8,6 +8,8 @@
 #include "desk/windows.h"
 #include "midi/out.h"
 #include "panels/editor.h"
+#include "platform/gate.h"
+#include "sequencer/sequence.h"
 #include "setup/setup.h"
 #include "shell/frame.h"
 #include "synth/profile.h"
@@ -81,6 +83,33 @@ TEST_F(Frame, gives_a_hidden_or_disabled_entry_no_shortcut) {
     window_->Show_Changes();
     Shortcut(Qt::Key_T);
     EXPECT_TRUE(Sent().empty());
+}
+
+TEST_F(Frame, lists_the_windows_inside_it_and_brings_one_to_the_front) {
+    Start();
+    const auto listed = [this] {
+        QStringList texts;
+        for (const QAction* entry : window_->findChild<QAction*>("Menu_Windows")->menu()->actions()) {
+            if (entry->text().startsWith("&1") || !texts.isEmpty()) texts << entry->text();
+        }
+        return texts;
+    };
+    EXPECT_EQ(listed(), QStringList{"&1 Editor"});
+    Seq_File_Name = "r&b.seq";
+    Guarded_Event([] { Window_Show(Sequencer); });
+    EXPECT_EQ(listed(), (QStringList{"&1 Editor", "&2 Sequencer - R&&B.SEQ"}));
+    const int raised = Sequencer.times_raised;
+    window_->findChild<QAction*>("Menu_Windows")->menu()->actions().back()->trigger();
+    EXPECT_EQ(Sequencer.times_raised, raised + 1);
+    Guarded_Event([] { Window_Unload(Sequencer); });
+    EXPECT_EQ(listed(), QStringList{"&1 Editor"});
+}
+
+TEST_F(Frame, runs_the_menu_s_shortcuts_from_a_window_over_it_too) {
+    Start();
+    Guarded_Event([] { Window_Show(Sequencer); });
+    QTest::keyClick(Widget("Seq_Start"), Qt::Key_T, Qt::ControlModifier);
+    EXPECT_EQ(Sent().back().size(), 90U * 3 - 1);
 }
 
 TEST_F(Frame, opens_the_setup_dialog_at_a_first_start_and_locks_the_rest) {
