@@ -135,6 +135,14 @@ void Entry_List::keyPressEvent(QKeyEvent* event) {
     QListView::keyPressEvent(event);
 }
 
+// The toolkit makes the first row the current one then, without showing it; the first key would go past it.
+void Entry_List::focusInEvent(QFocusEvent* event) {
+    const QScopedValueRollback<bool> showing(showing_, true);
+    const bool none = !currentIndex().isValid();
+    QListView::focusInEvent(event);
+    if (none) setCurrentIndex({});
+}
+
 void Entry_List::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QListView::currentChanged(current, previous);
     if (showing_) return;
