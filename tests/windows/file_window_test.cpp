@@ -7,6 +7,7 @@
 #include <QListView>
 #include <QSignalSpy>
 #include <QTimer>
+#include <cstdlib>
 #include <filesystem>
 
 #include "desk/windows.h"
@@ -140,6 +141,19 @@ TEST_F(File_Window_On_Screen, shows_one_panel_by_its_mode) {
     }
 }
 
+// No menu leads to this panel yet; the documents have their picture of it from here.
+TEST_F(File_Window_On_Screen, has_a_panel_for_oscillators) {
+    Write(Disk("wave.osc"), "?");
+    Open("Open_OSC");
+    EXPECT_EQ(Widget("File_Dlg")->windowTitle(), "Open Oscillator File");
+    const QImage curve = Picture_On(Widget("FD_OSC_Preview"));
+    Press_Row("FD_List_Files", 0);
+    EXPECT_EQ(Picture_On(Widget("FD_OSC_Preview")), curve) << "nothing changes it";
+    if (const char* folder = std::getenv("TONEBENCH_PICTURES")) {
+        EXPECT_TRUE(Picture_On(Widget("File_Dlg")).save(QString(folder) + "/files_oscillators.png"));
+    }
+}
+
 // -- lists -----------------------------------------------------------------------------------------------
 
 TEST_F(File_Window_On_Screen, lists_files_and_folders_by_their_names) {
@@ -220,6 +234,7 @@ TEST_F(File_Window_On_Screen, holds_50000_files_and_fills_its_list_once) {
     EXPECT_EQ(files->model()->rowCount(), 50003);
     const QSignalSpy fills(files->model(), &QAbstractItemModel::modelReset);
     Key(Qt::Key_F, Qt::AltModifier);
+    Key(Qt::Key_Down);
     Key(Qt::Key_End);
     EXPECT_EQ(FD_List_Files_Entry(), "b\xE4ss.syx");
     for (int step = 0; step < 20; ++step) Key(Qt::Key_PageUp);
