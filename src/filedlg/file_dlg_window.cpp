@@ -103,7 +103,9 @@ void File_Dlg_Window::Build_Lists() {
     name_ = new QLineEdit(this);
     name_->setObjectName("FD_FileName");
     name_->setAccessibleName("File Name");
-    name_->setGeometry(14, 30, 214, 28);
+    name_->setGeometry(15, 30, 212, 28);
+    name_->setFrame(false);
+    name_->setTextMargins(2, 0, 2, 0);
     connect(name_, &QLineEdit::textEdited,
             [](const QString& text) { Event([&] { FD_FileName_Change(text.toStdString()); }); });
     connect(name_, &QLineEdit::returnPressed, [] { Event(FD_Button_Ok_Click); });
@@ -233,9 +235,10 @@ void File_Dlg_Window::Close_Asked() {
 void File_Dlg_Window::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), Ink_Colour(Ink::Ground));
-    for (const QWidget* list : {files_, dirs_}) {
-        painter.setPen(Ink_Colour(list->hasFocus() ? Ink::Heading : Ink::Frame));
-        painter.drawRect(QRectF(list->geometry()).adjusted(-0.5, -0.5, 0.5, 0.5));
+    for (const QWidget* framed :
+         {static_cast<QWidget*>(name_), static_cast<QWidget*>(files_), static_cast<QWidget*>(dirs_)}) {
+        painter.setPen(Ink_Colour(framed->hasFocus() ? Ink::Heading : Ink::Frame));
+        painter.drawRect(QRectF(framed->geometry()).adjusted(-0.5, -0.5, 0.5, 0.5));
     }
     if (FD_Shown_Panel == FD_Panel::None) return;
     painter.setPen(Ink_Colour(Ink::Frame));
@@ -246,7 +249,7 @@ void File_Dlg_Window::paintEvent(QPaintEvent*) {
 }
 
 bool File_Dlg_Window::eventFilter(QObject* watched, QEvent* event) {
-    // The frames of the lists show where the keyboard is.
+    // The frames show where the keyboard is.
     if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) update();
     if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress) {
         return Child_Window::eventFilter(watched, event);

@@ -82,6 +82,7 @@ class Files_On_The_Desktop : public Desktop {
             std::this_thread::sleep_for(300ms);
         }
         ASSERT_TRUE(Wait_For_Focus("Save Tone File"));
+        std::this_thread::sleep_for(200ms);
         Xdotool({"type", name});
         Press_Key("Return");
     }
@@ -111,6 +112,7 @@ TEST_F(Files_On_The_Desktop, are_pressed_and_heard_saved_and_deleted) {
     // Three files in turn.
     Press_Key("ctrl+o");
     ASSERT_TRUE(Wait_For_Focus("Open Tone File"));
+    std::this_thread::sleep_for(200ms);
     std::size_t heard = 0;
     for (int row = 0; row < 3; ++row) {
         Press_File(row);
@@ -158,9 +160,11 @@ TEST_F(Files_On_The_Desktop, are_pressed_and_heard_saved_and_deleted) {
     // A new folder; a file and the folder deleted.
     Press_Key("ctrl+o");
     ASSERT_TRUE(Wait_For_Focus("Open Tone File"));
+    std::this_thread::sleep_for(200ms);
     Press_Folder(0);
     Click_At(Newdir_X, Small_Buttons_Y);
     ASSERT_TRUE(Wait_For_Focus("Create new folder"));
+    std::this_thread::sleep_for(200ms);
     Xdotool({"type", "Pads"});
     Press_Key("Return");
     ASSERT_TRUE(Wait_For_Focus("Open Tone File"));
