@@ -608,6 +608,13 @@ def caption_cancel():
     return s
 
 
+def tone_symbol(name):
+    """The letter of a tone, on its push button; centred like the symbols."""
+    s = sheet(14, 14)
+    word(s, [(name, 6, 0)], 4, 3, 10, 2, 2, printing)
+    return s
+
+
 def caption_new():
     """The word NEW, for the key over the sequencer's keys."""
     s = sheet(22, 7)
@@ -696,7 +703,7 @@ def all_pictures():
         "led_1": lamp(("#ffd9d0", "#ff3a2c", "#d81410"), True),
         "led_2": lamp(("#e2ffe6", "#3fe070", "#12a544"), True),
         "led_3": lamp(("#fff2cc", "#ffb030", "#d97c08"), True),
-        "led_4": lamp(("#e0f7ff", "#3fb8e0", "#1278a5"), True),
+        "led_4": lamp(("#d4fff8", "#2fd8c8", "#109488"), True),
         "led_5": lamp_off(),
         "fd_symbols_0": up_symbol(),
         "fd_symbols_1": new_folder_symbol(),
@@ -719,6 +726,8 @@ def all_pictures():
         "dlg2_dn": push_button(65, 34, True, 3),
         "dlg2_ok": caption_ok(),
         "dlg2_cancel": caption_cancel(),
+        "tone_a_pic": tone_symbol("A"),
+        "tone_b_pic": tone_symbol("B"),
         "seq_pics_0": sequencer_cell("empty"),
         "seq_pics_1": sequencer_cell("light"),
         "seq_pics_2": sequencer_cell("loud"),

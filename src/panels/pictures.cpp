@@ -32,6 +32,8 @@ constexpr std::array Roles = {
     Picture_Role{Picture_Store::Dlg2_Dn,          "dlg2_dn",           0,    0,    65,    34},
     Picture_Role{Picture_Store::Dlg2_Ok,          "dlg2_ok",           0,    0,    51,    20},
     Picture_Role{Picture_Store::Dlg2_Cancel,      "dlg2_cancel",       0,    0,    51,    20},
+    Picture_Role{Picture_Store::Tone_A_Pic,       "tone_a_pic",        0,    0,    14,    14},
+    Picture_Role{Picture_Store::Tone_B_Pic,       "tone_b_pic",        0,    0,    14,    14},
     Picture_Role{Picture_Store::Back_Pic,         "back_pic",          0,    0,    64,    64},
     Picture_Role{Picture_Store::Pic_Tonebench,    "pic_tonebench",     0,    0,   110,    50},
     Picture_Role{Picture_Store::Pic_Sign,         "pic_sign",          0,    0,    79,    14},

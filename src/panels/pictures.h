@@ -27,6 +27,8 @@ enum class Picture_Store {
     Dlg2_Dn,
     Dlg2_Ok,
     Dlg2_Cancel,
+    Tone_A_Pic,  // the symbols on the two buttons that choose a tone of the MKS-70
+    Tone_B_Pic,
     Back_Pic,
     Pic_Tonebench,
     Pic_Sign,

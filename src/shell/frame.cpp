@@ -153,11 +153,13 @@ bool Main_Close() {
         throw;
     }
     if (!Closing) return false;
-    // A dialog that still stands open goes with the frame, and keeps its own settings as at any close.
+    // A window that still stands open goes with the frame, and keeps its own settings as at any close.
     Window_Unload(MIDI_Setup);
     Window_Unload(TName);
     Window_Unload(Input_Dlg);
     Window_Unload(File_Dlg);
+    Window_Unload(Oscillator);
+    Window_Unload(Patch_MKS70);
     Main_Unload();
     Main_Window.visible = false;
     return true;

@@ -61,6 +61,8 @@ const std::vector<Expected> Catalogue = {
     {Picture_Store::Dlg2_Dn,     0, "dlg2_dn",     65, 34},
     {Picture_Store::Dlg2_Ok,     0, "dlg2_ok",     51, 20},
     {Picture_Store::Dlg2_Cancel, 0, "dlg2_cancel", 51, 20},
+    {Picture_Store::Tone_A_Pic,  0, "tone_a_pic",  14, 14},
+    {Picture_Store::Tone_B_Pic,  0, "tone_b_pic",  14, 14},
     {Picture_Store::Back_Pic,      0, "back_pic",       64, 64},
     {Picture_Store::Pic_Tonebench, 0, "pic_tonebench", 110, 50},
     {Picture_Store::Pic_Sign,      0, "pic_sign",       79, 14},

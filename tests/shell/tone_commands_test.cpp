@@ -15,6 +15,7 @@
 #include "synth/syx_file.h"
 #include "synth/tone.h"
 #include "synth/tone_files.h"
+#include "synth/views.h"
 
 namespace {
 
@@ -72,6 +73,19 @@ TEST_F(Tone_Command, new_gives_a_new_tone_without_a_question_when_the_old_is_sav
     Choose(Menu_File_SYX_New);
     Expect_New_Tone();
     EXPECT_TRUE(Boxes.empty());
+}
+
+TEST_F(Tone_Command, new_moves_the_panel_without_words_and_sends_behind_that) {
+    static int moved = 0;
+    Panel_Apply_Tone = [] {
+        EXPECT_EQ(Tone_Loading, Flag_8::True);
+        EXPECT_EQ(Tone_Saved, Flag_16::True);
+        EXPECT_EQ(Sent(), Lines{});
+        ++moved;
+    };
+    Choose(Menu_File_SYX_New);
+    EXPECT_EQ(moved, 1);
+    Expect_New_Tone();
 }
 
 TEST_F(Tone_Command, new_asks_about_an_unsaved_tone_and_goes_on_at_no) {

@@ -7,7 +7,6 @@
 #include <QListView>
 #include <QSignalSpy>
 #include <QTimer>
-#include <cstdlib>
 #include <filesystem>
 
 #include "desk/windows.h"
@@ -149,9 +148,7 @@ TEST_F(File_Window_On_Screen, has_a_panel_for_oscillators) {
     const QImage curve = Picture_On(Widget("FD_OSC_Preview"));
     Press_Row("FD_List_Files", 0);
     EXPECT_EQ(Picture_On(Widget("FD_OSC_Preview")), curve) << "nothing changes it";
-    if (const char* folder = std::getenv("TONEBENCH_PICTURES")) {
-        EXPECT_TRUE(Picture_On(Widget("File_Dlg")).save(QString(folder) + "/files_oscillators.png"));
-    }
+    EXPECT_TRUE(Picture_On(Widget("File_Dlg")).save(BUILD_DIR "/files_oscillators.png"));
 }
 
 // -- lists -----------------------------------------------------------------------------------------------
