@@ -147,10 +147,10 @@ void File_Dlg_Window::Build_Panels() {
     (new Curve_Preview(osc_))->setGeometry(14, 30, 484, 90);
 }
 
-QWidget* File_Dlg_Window::Panel_Of(const Control& control) const {
+QWidget* File_Dlg_Window::Panel_Of(const Control& control) {
     const std::string_view name = control.name;
     if (name.starts_with("FD_SYX_")) return syx_;
-    return name.starts_with("FD_SEQ_") ? seq_ : const_cast<File_Dlg_Window*>(this);
+    return name.starts_with("FD_SEQ_") ? seq_ : this;
 }
 
 Control_Widget* File_Dlg_Window::Widget_Of(const Control* control) const {

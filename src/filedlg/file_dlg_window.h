@@ -31,7 +31,7 @@ class File_Dlg_Window : public Child_Window {
     QLabel* Label(const char* name, const char* text, QRect place, QWidget* parent, QWidget* buddy);
     QComboBox* List(const char* name, const char* spoken, QRect place, QWidget* parent,
                     void (*changed)(int));
-    QWidget* Panel_Of(const Control& control) const;
+    QWidget* Panel_Of(const Control& control);
     Control_Widget* Widget_Of(const Control* control) const;
     void Show_Lists();
     void Show_Field();

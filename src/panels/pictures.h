@@ -10,7 +10,7 @@
 enum class Picture_Store {
     None,
     Buttons,  // an even item is resting, the next odd one its second blink picture
-    LED,      // 0 off, 1 on, 3 a check box's on, 5 disabled
+    LED,      // 0 off, 1 on, 3 of a check box on, 5 of one that is disabled, further lamps
     Button_Up3D,
     Button_Dn3D,
     Start_Enabled,
