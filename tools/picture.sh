@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Takes the pictures of the documents from the real program: tools/picture.sh BUILD-FOLDER
 # Starts a virtual screen and a JACK server with a device each way, plays a little on the panel, and writes
-# the pictures of docs/. No menu opens the MKS-70's patch window; its picture, docs/patch_mks70.png, is what
-# the windows' tests leave in the build folder.
+# the pictures of docs/. No menu opens the MKS-70's patch window or the file window's panel of oscillators; their
+# pictures, docs/patch_mks70.png and docs/files_oscillators.png, are what the windows' tests leave in the build
+# folder.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 build=$(cd "$1" && pwd)
@@ -169,7 +170,7 @@ printf 'Synthesizer=Alpha Juno\n' >>"$folder/Tonebench.INI"
 shoot 2 play_juno "$docs/juno.png"
 shoot 2 play_envelope "$docs/juno_envelope.png"
 
-cp "$build/patch_mks70.png" "$docs/patch_mks70.png"
+cp "$build/patch_mks70.png" "$build/files_oscillators.png" "$docs"
 
 rm "$folder/Tonebench.INI"
 "$folder/tonebench" &
@@ -179,3 +180,29 @@ sleep 0.5
 xdotool key Return
 sleep 1
 import -window root -crop 541x508+0+0 +repage "$docs/setup.png"
+kill %% 2>/dev/null || true
+sleep 4
+
+# The file window: a tone and a sequence, pressed and heard.
+mkdir -p "$folder/Tones/Basses" "$folder/Tones/Leads" "$folder/Tones/Pads and Strings"
+cp "$build"/Tones/JX-8P/* "$folder/Tones"
+cp -r "$build/Sequences" "$folder"
+printf '[MIDI]\nOutput=instrument:input\nInput=keyboard:out\n[Recent Files]\nTones=%s\nSequences=%s\n' \
+    "$folder/Tones" "$folder/Sequences" >"$folder/Tonebench.INI"
+(cd "$folder" && exec ./tonebench) &
+sleep 2
+xdotool key ctrl+o
+sleep 0.5
+xdotool mousemove 100 120 click 1 # the third file
+sleep 2.5
+import -window root -crop 541x445+0+0 +repage "$docs/files_tones.png"
+xdotool key Escape
+sleep 0.5
+for key in alt+f q o; do
+    xdotool key "$key"
+    sleep 0.3
+done
+sleep 0.5
+xdotool mousemove 100 80 click 1
+sleep 0.5
+import -window root -crop 541x445+0+0 +repage "$docs/files_sequences.png"

@@ -28,6 +28,8 @@ Window Sequencer = {.name = "Sequencer", .inside = true};
 Window Oscillator = {.name = "Oscillator", .inside = true};
 Window MIDI_Setup = {.name = "MIDI_Setup"};
 Window TName = {.name = "TName"};
+Window File_Dlg = {.name = "File_Dlg"};
+Window Input_Dlg = {.name = "Input_Dlg"};
 
 Flag_8 Patch_Window_Open = Flag_8::False;
 Flag_8 Seq_Window_Open = Flag_8::False;

@@ -52,6 +52,8 @@ extern Window Sequencer;
 extern Window Oscillator;
 extern Window MIDI_Setup;
 extern Window TName;
+extern Window File_Dlg;
+extern Window Input_Dlg;
 
 // Whether the windows that may come and go stand open; written by their load and unload.
 extern Flag_8 Patch_Window_Open;

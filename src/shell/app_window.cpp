@@ -9,6 +9,8 @@
 
 #include "desk/menus.h"
 #include "desk/windows.h"
+#include "filedlg/file_dlg_window.h"
+#include "filedlg/input_dlg_window.h"
 #include "oscwin/oscillator_window.h"
 #include "panels/editor.h"
 #include "panels/editor_printing.h"
@@ -96,12 +98,10 @@ constexpr Panel_Row Panels[] = {
 
 // The windows over the main one.
 constexpr Child_Row Children[] = {
-    {MIDI_Setup, Make<Setup_Window>},
-    {TName, Make<TName_Window>},
-    {Patch, Make<Patch_Window>},
-    {Patch_MKS70, Make<MKS_Patch_Window>},
-    {Sequencer, Make<Sequencer_Window>},
-    {Oscillator, Make<Oscillator_Window>},
+    {MIDI_Setup, Make<Setup_Window>},    {TName, Make<TName_Window>},
+    {Patch, Make<Patch_Window>},         {Patch_MKS70, Make<MKS_Patch_Window>},
+    {Sequencer, Make<Sequencer_Window>}, {Oscillator, Make<Oscillator_Window>},
+    {File_Dlg, Make<File_Dlg_Window>},   {Input_Dlg, Make<Input_Dlg_Window>},
 };
 
 }  // namespace

@@ -1,9 +1,9 @@
 #include "shell/osc_commands.h"
 
 #include "desk/menus.h"
+#include "filedlg/file_dlg.h"
 #include "oscwin/oscwin.h"
 #include "platform/message_box.h"
-#include "shell/tone_commands.h"
 #include "synth/tone.h"
 
 void File_Osc_Open_Chosen() {
@@ -14,7 +14,7 @@ void File_Osc_Open_Chosen() {
         if (answer == Answer::Yes) File_Osc_SaveAs_Chosen();
         if (answer == Answer::Cancel) return;
     }
-    if (Is_True(Tone_Saved)) File_Window_Open("Open_OSC");
+    if (Is_True(Tone_Saved)) FD_Show("Open_OSC");
 }
 
 void File_Osc_SaveAs_Chosen() {

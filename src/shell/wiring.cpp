@@ -1,6 +1,8 @@
 #include "shell/wiring.h"
 
 #include "desk/timers.h"
+#include "filedlg/file_dlg.h"
+#include "filedlg/input_dlg.h"
 #include "oscwin/oscwin.h"
 #include "panels/controls.h"
 #include "panels/editor.h"
@@ -35,6 +37,8 @@ void Program_Wire() {
     Juno_Show_Name = Juno_Display_Tick;
     Seqwin_Install();
     Setup_Install();
+    File_Dlg_Install();
+    Input_Install();
     Osc_Install();
     Commands_Install();
     Tone_Commands_Install();

@@ -3,6 +3,7 @@
 #include "desk/dialog_lock.h"
 #include "desk/menus.h"
 #include "desk/screen.h"
+#include "filedlg/state.h"
 #include "oscillator/open_oscillator.h"
 #include "shell/frame.h"
 #include "shell/osc_commands.h"
@@ -220,14 +221,14 @@ TEST_F(Oscillators_Entries, of_its_files_are_hidden) {
 }
 
 TEST_F(Oscillators_Entries, open_the_file_window_when_the_tone_is_saved) {
-    File_Window_Open = [](const char* mode) { Opened.emplace_back(mode); };
+    File_Dlg.load = [] { Opened.push_back(FD_Mode); };
     Menu(Menu_File_Osc_Open).chosen();
     EXPECT_EQ(Opened, Lines{"Open_OSC"});
     EXPECT_TRUE(Boxes.empty());
 }
 
 TEST_F(Oscillators_Entries, ask_about_an_unsaved_tone_before_they_open_the_file_window) {
-    File_Window_Open = [](const char* mode) { Opened.emplace_back(mode); };
+    File_Dlg.load = [] { Opened.push_back(FD_Mode); };
     Tone_Saved = Flag_16::False;
     Answer_With("Save actual TONE first?", Answer::Cancel);
     Menu(Menu_File_Osc_Open).chosen();
