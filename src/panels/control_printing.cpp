@@ -10,7 +10,7 @@ constexpr double Caption_Gap = 4;  // between a caption's base line and the high
 constexpr double Mark_Gap = 1;     // between a thumb and the marks of its scale
 constexpr double Long_Mark = 3;
 constexpr double Short_Mark = 2;
-constexpr double Mark_To_Symbol = 1.5;
+constexpr double Mark_To_Symbol = 2.5;  // from a symbol to the figure beside it
 
 void Print_Figure(Printing& printing, const Slider_Place& place, int unit, double y) {
     const double x = place.figures_right ? place.left + Thumb_Size + Mark_Gap + Long_Mark + 1

@@ -102,8 +102,9 @@ void Control_Widget::paintEvent(QPaintEvent*) {
         Paint_Field(painter);
     } else {
         // A control may be narrower than its picture: then it shows the middle of it.
-        const int aside = (width() - Role_Of(record_.picture).width) / 2;
-        painter.drawPixmap(aside, 0, Picture_Pixmap(record_.picture, devicePixelRatioF()));
+        const QPixmap& picture = Picture_Pixmap(record_.picture, devicePixelRatioF());
+        const double aside = (width() - picture.deviceIndependentSize().width()) / 2;
+        painter.drawPixmap(QPointF(picture.isNull() ? 0 : aside, 0), picture);
     }
     // The moving controls show the focus by blinking; the others need a mark of their own.
     if (hasFocus() && *record_.kind == '\0') {

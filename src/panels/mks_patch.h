@@ -1,5 +1,5 @@
-// The patch window of the MKS-70, as far as it is begun: its two lists, the buttons that choose a tone, and the
-// knob UDTune work; everything else on it is drawn and inert. No menu opens it.
+// The patch window of the MKS-70, as far as it is begun: its two lists, the buttons that choose a tone, and
+// the knob UDTune work; everything else on it is drawn and inert. No menu opens it.
 //
 // Written here: the records of the controls, and through them Patch_MKS70_Data.
 #pragma once
@@ -33,14 +33,14 @@ extern Control MKS_Tone_B_Pic;
 
 extern const Panel Patch_MKS70_Panel;
 
-// Puts the tone on show away and brings the other one up. The two are not mirror images: a split point comes
-// back for B only, and each stores the lists' selections for the tone that was on show, as far as there was
-// one. Both move the dot of the other patch window, which loads it, and none of this one.
+// Puts the tone on show away and brings the other one up. The two are not mirror images: a split point
+// comes back for B only, and each stores the lists' selections for the tone that was on show, as far as
+// there was one. Both move the dot of the other patch window, which loads it, and none of this one.
 void Tone_A_Select();
 void Tone_B_Select();
 
-// Stores, shows in Editor's display (cells 1 and 5 as 0 to 99, the detunes as -50 to 50, the others nothing),
-// sends, and marks the tone as changed.
+// Stores, shows in Editor's display (cells 1 and 5 as 0 to 99, the detunes as -50 to 50, the others
+// nothing), sends, and marks the tone as changed.
 void Patch_MKS70_Set_Value(std::size_t index, std::uint8_t value);
 
 void MKS70_Load_Pictures();

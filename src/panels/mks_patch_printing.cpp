@@ -14,8 +14,8 @@ namespace {
 const std::array<Panel_Group, 7> Groups = {{
     {"KEY MODE",    {6, 14},    Box(0.5, 2.5, 123.5, 124.5)},
     {"AFTER TOUCH", {132, 14},  Box(126.5, 2.5, 245.5, 134.5)},
-    {"CHASE PLAY",  {66, 156},  Box(0.5, 148.5, 139.5, 266.5)},
-    {"PORTAMENTO",  {147, 149}, Box(142.5, 137.5, 204.5, 266.5)},
+    {"CHASE PLAY",  {66, 157},  Box(0.5, 148.5, 139.5, 266.5)},
+    {"PORTAMENTO",  {145, 149}, Box(142.5, 137.5, 204.5, 266.5)},
     {"BENDER",      {212, 149}, Box(207.5, 137.5, 256.5, 266.5)},
     {"VOLUME",      {264, 149}, Box(259.5, 137.5, 331.5, 266.5)},
     {"TONE",        {64, 292},  Box(0.5, 269.5, 331.5, 420.5)},
@@ -44,7 +44,7 @@ const std::array<Thumb_Print, MKS_Thumbs.size()> Thumbs = {{
     {"Chase_Level",    "LEVEL",   262,  {},                    false, true},
     {"Chase_Time",     "TIME",    262,  {},                    false, true},
     {"Chase_Play",     "PLAY",    262,  {"OFF", "ON"}},
-    {"LFO_Mod_Depth",  "LFO",     313},
+    {"LFO_Mod_Depth",  "LFO",     313,  {},                    true,  true},
     {"Total_Volume",   "TOTAL",   262},
 }};
 

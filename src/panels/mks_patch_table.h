@@ -1,5 +1,5 @@
-// The patch window of the MKS-70 as a table: where its drawn controls stand. Most of them are a picture of the
-// instrument's front and take no input; of all of them only UDTune answers.
+// The patch window of the MKS-70 as a table: where its drawn controls stand. Most of them are a picture of
+// the instrument's front and take no input; of all of them only UDTune answers.
 #pragma once
 
 #include <array>

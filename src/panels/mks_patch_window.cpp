@@ -29,9 +29,8 @@ MKS_Patch_Window::MKS_Patch_Window(QMainWindow* parent)
     Dress(*patch_name_, "Patch_Name", "Patch Name", MKS_Patch_Name);
     Dress(*tone_number_, "Tone_Number", "Tone Number", MKS_Tone_Number);
     Dress(*split_point_, "Split_Point", "Split Point", MKS_Split_Point);
-    connect(patch_name_, &QLineEdit::textEdited, [](const QString& text) {
-        Guarded_Event([&text] { MKS_Patch_Name_Change(To_ANSI(text)); });
-    });
+    connect(patch_name_, &QLineEdit::textEdited,
+            [](const QString& text) { Guarded_Event([&text] { MKS_Patch_Name_Change(To_ANSI(text)); }); });
     connect(tone_number_, &QComboBox::activated,
             [](int index) { Guarded_Event([index] { MKS_Tone_Number_Change(index); }); });
     connect(split_point_, &QComboBox::activated,

@@ -200,7 +200,7 @@ void Patch_After_Touch_Light(std::size_t item) {
 }
 
 void Patch_Close_Asked() {
-    if (Patch.enabled) Window_Unload(Patch);
+    Window_Unload(Patch);
 }
 
 void Patch_Lamps_To_First() {

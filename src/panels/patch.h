@@ -18,22 +18,23 @@ extern Control Patch_UDTune_Knopf;
 extern std::array<Control, Key_Mode_Lamps.size()> Patch_Key_Mode_Items;
 extern std::array<Control, After_Touch_Lamps.size()> Patch_After_Touch_Items;
 
-// The lit item of each group. The record's byte stays apart from it: a byte that stands for no lamp is shown
-// as item 0 and kept.
+// The lit item of each group. The record's byte stays apart from it: a byte that stands for no lamp is
+// shown as item 0 and kept.
 extern std::uint8_t Patch_Key_Mode_Sel;
 extern std::uint8_t Patch_After_Touch_Sel;
 
 extern const Panel Patch_Panel;
 extern const Panel_Events Patch_Events;
 
-// The row of the table that a control belongs to: its own, or that of the knob whose dot it is. Null for a lamp.
+// The row of the table that a control belongs to: its own, or that of the knob whose dot it is. Null for a
+// lamp.
 const Patch_Row* Patch_Row_Of(const Control& control);
 
 // What stands for a value in Editor's display. False for a parameter that shows nothing.
 bool Patch_Value_Text(std::size_t number, std::uint8_t value, std::string& text);
 
-// Stores, shows in Editor's display (sliders 0 to 99, detune -50 to 50, the others nothing), sends, and marks
-// the tone as changed.
+// Stores, shows in Editor's display (sliders 0 to 99, detune -50 to 50, the others nothing), sends, and
+// marks the tone as changed.
 void Patch_Set_Value(std::size_t number, std::uint8_t value);
 
 // The steps of the sliders and of the bend range. Place works on the control that has the focus.
@@ -56,7 +57,7 @@ void Patch_After_Touch_Light(std::size_t item);
 void Patch_Key_Mode_Click(std::size_t item);
 void Patch_After_Touch_Click(std::size_t item);
 
-// The user wants the window gone: Escape or the close box. A window that is locked by a dialog stays.
+// The user wants the window gone: Escape or the close box.
 void Patch_Close_Asked();
 
 // The two selected lamps go back to the first.

@@ -8,7 +8,7 @@ namespace {
 
 // clang-format off
 const std::array<Panel_Group, 5> Groups = {{
-    {"PORTAMENTO",    {6, 14},    Box(0.5, 2.5, 64.5, 193.5)},
+    {"PORTAMENTO",    {5, 14},    Box(0.5, 2.5, 64.5, 193.5)},
     {"BENDER",        {73, 14},   Box(67.5, 2.5, 147.5, 193.5)},
     {"KEY MODE",      {156, 14},  Box(150.5, 2.5, 217.5, 109.5)},
     {"AFTER TOUCH",   {226, 14},  Box(220.5, 2.5, 295.5, 109.5)},

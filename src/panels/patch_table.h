@@ -1,5 +1,5 @@
-// The Patch window as a table: the moving controls and the two groups of lamps, with the patch byte that each
-// edits. A lamp's number and its byte are not the same: the codes jump over 3.
+// The Patch window as a table: the moving controls and the two groups of lamps, with the patch byte that
+// each edits. A lamp's number and its byte are not the same: the codes jump over 3.
 #pragma once
 
 #include <array>
@@ -31,7 +31,7 @@ struct Lamp_Row {
 
 inline constexpr int Patch_Width = 296;
 inline constexpr int Patch_Height = 196;
-inline constexpr int Lamp_Pitch = 15;  // pixels from one lamp to the next below it
+inline constexpr int Lamp_Pitch = 15;      // pixels from one lamp to the next below it
 inline constexpr int Patch_Lamp_Row = 17;  // of item 0 in both groups
 inline constexpr int Patch_Key_Mode_Left = 152;
 inline constexpr int Patch_After_Touch_Left = 222;

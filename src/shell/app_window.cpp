@@ -9,7 +9,10 @@
 
 #include "desk/menus.h"
 #include "desk/windows.h"
+#include "filedlg/file_dlg_window.h"
+#include "filedlg/input_dlg_window.h"
 #include "help/help_window.h"
+#include "oscwin/oscillator_window.h"
 #include "panels/editor.h"
 #include "panels/editor_printing.h"
 #include "panels/juno_panel.h"
@@ -38,6 +41,14 @@ class Ground : public QWidget {
     }
     void mousePressEvent(QMouseEvent*) override { Guarded_Event(Main_Background_Click); }
 };
+
+// As the toolkit writes a caption: of several "&" only the first marks a letter, the others are part of a
+// path.
+QString Toolkit_Caption(const std::string& caption) {
+    const QString text = QString::fromStdString(caption).trimmed();
+    const qsizetype behind_mark = text.indexOf('&') + 1;
+    return text.left(behind_mark) + text.mid(behind_mark).replace("&", "&&");
+}
 
 // An entry is of use when something happens on it or below it.
 bool Has_Function(std::size_t index) {
@@ -94,6 +105,9 @@ constexpr Child_Row Children[] = {
     {Patch, Make<Patch_Window>},
     {Patch_MKS70, Make<MKS_Patch_Window>},
     {Sequencer, Make<Sequencer_Window>},
+    {Oscillator, Make<Oscillator_Window>},
+    {File_Dlg, Make<File_Dlg_Window>},
+    {Input_Dlg, Make<Input_Dlg_Window>},
     {Help, Make<Help_Window>},
 };
 // clang-format on
@@ -147,7 +161,7 @@ void App_Window::Show_Menus() {
         const Menu_Entry& entry = Menu_Tree[index];
         QAction& action = *entries_[index];
         // The toolkit draws a line for a separator that has no text, and the text of one that has.
-        if (!Is_Separator(entry)) action.setText(QString::fromStdString(entry.caption).trimmed());
+        if (!Is_Separator(entry)) action.setText(Toolkit_Caption(entry.caption));
         action.setVisible(entry.visible && (Has_Function(index) || Is_Separator(entry)));
         action.setEnabled(entry.enabled);
         if (entry.checked) action.setCheckable(true);

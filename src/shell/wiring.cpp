@@ -1,8 +1,11 @@
 #include "shell/wiring.h"
 
 #include "desk/timers.h"
+#include "filedlg/file_dlg.h"
+#include "filedlg/input_dlg.h"
 #include "help/help.h"
 #include "help/howto.h"
+#include "oscwin/oscwin.h"
 #include "panels/controls.h"
 #include "panels/editor.h"
 #include "panels/juno_panel.h"
@@ -14,6 +17,7 @@
 #include "shell/commands.h"
 #include "shell/display_check.h"
 #include "shell/frame.h"
+#include "shell/osc_commands.h"
 #include "shell/sequence_commands.h"
 #include "shell/settings_file.h"
 #include "shell/tone_commands.h"
@@ -35,12 +39,16 @@ void Program_Wire() {
     Juno_Show_Name = Juno_Display_Tick;
     Seqwin_Install();
     Setup_Install();
+    File_Dlg_Install();
+    Input_Install();
+    Osc_Install();
     Help_Install();
     Help_Show_Waiting = Howto_Show_Waiting;
     Commands_Install();
     Tone_Commands_Install();
     Sequence_Commands_Install();
     Name_Command_Install();
+    Osc_Commands_Install();
     Window_Commands_Install();
     Settings_Install();
     Timer_Display.tick = Main_Display_Tick;

@@ -1,5 +1,5 @@
-// The patch level of the MKS-70, as far as it is begun: a patch joins two tones, A and B. Its record takes part
-// in no message of a whole tone, no file, no Undo and no Random; it keeps its contents for the run.
+// The patch level of the MKS-70, as far as it is begun: a patch joins two tones, A and B. Its record takes
+// part in no message of a whole tone, no file, no Undo and no Random; it keeps its contents for the run.
 //
 //   20 split point of A    29 tone number of A    32 detune of A
 //   21 split point of B    38 tone number of B    41 detune of B

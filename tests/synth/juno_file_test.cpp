@@ -83,11 +83,13 @@ TEST_F(Juno_Files, hold_any_byte_and_the_channel_at_the_time_of_the_save) {
     EXPECT_EQ(hex.substr(hex.size() - 5), "FF F7");
 }
 
-TEST_F(Juno_Files, are_written_over_the_start_of_a_longer_one) {
+TEST_F(Juno_Files, are_written_over_the_start_of_a_longer_one_whose_length_is_wrong_then) {
     Write(Path("old.syx"), std::string(60, 'x'));
     Tone_File_Name = Path("old.syx");
     SYX_Save();
     EXPECT_EQ(Read_Hex(Path("old.syx")).substr(56 * 3), "F7 78 78 78");
+    Expect_Box(Wrong_Length);
+    SYX_Load(Path("old.syx"), "Open");
 }
 
 TEST_F(Juno_Files, are_loaded_shown_and_become_the_current_file) {

@@ -6,7 +6,6 @@
 #include "synth/messages.h"
 #include "synth/patch.h"
 #include "synth/profile.h"
-#include "synth/random_tone.h"
 #include "synth/tone.h"
 #include "synth/undo.h"
 #include "synth/views.h"

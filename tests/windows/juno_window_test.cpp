@@ -78,6 +78,18 @@ TEST_F(Juno_On_Screen, has_its_first_focus_and_mark_on_the_range) {
     EXPECT_LE(Juno_Controls.front().picture.item, 1);
 }
 
+TEST_F(Juno_On_Screen, keeps_the_mark_when_the_frame_wakes_the_hidden_editor_too) {
+    Start_Juno();
+    On_Juno("VCF_Res")->setFocus();
+    for (const QEvent::Type type : {QEvent::WindowActivate, QEvent::WindowDeactivate}) {
+        Juno_Controls[16].picture = Picture_Of(Picture_Store::Buttons, 7);
+        QEvent event(type);
+        QApplication::sendEvent(Widget("Editor"), &event);
+        EXPECT_EQ(Panel_Current_Control, &Juno_Controls[16]);
+        EXPECT_EQ(Juno_Controls[16].picture.item, 7);
+    }
+}
+
 TEST_F(Juno_On_Screen, is_reached_whole_by_the_tab_key_and_never_the_hidden_editor) {
     Start_Juno();
     for (const Control* control : Juno_Panel.controls) {

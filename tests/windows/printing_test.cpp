@@ -171,8 +171,11 @@ TEST_F(Printed, rules_lie_clear_of_every_control) {
 
 TEST_F(Printed, pictures_are_valid_and_sharp_at_every_ratio) {
     for (const qreal ratio : {1.0, 1.25, 1.5, 2.0}) {
-        for (const auto& [store, items] :
-             {std::pair{Picture_Store::Buttons, 11}, {Picture_Store::LED, 4}}) {
+        for (const auto& [store, items] : {std::pair{Picture_Store::Buttons, 11},
+                                           {Picture_Store::LED, 6},
+                                           {Picture_Store::FD_Symbols, 3},
+                                           {Picture_Store::FD_Icons, 3},
+                                           {Picture_Store::FD_SEQ_Pics, 4}}) {
             for (int item = 0; item < items; ++item) {
                 const Picture picture = Picture_Of(store, item);
                 const QPixmap& pixmap = Picture_Pixmap(picture, ratio);
