@@ -6,41 +6,12 @@
 #include "midi/out.h"
 #include "panels/editor.h"
 #include "panels/steps.h"
-#include "platform/midi_port.h"
 #include "shell/wiring.h"
 #include "synth/messages.h"
 #include "synth/profile.h"
 #include "synth/tone.h"
 #include "synth/views.h"
 
-// Ports that only take the bytes: nothing of them is measured.
-std::vector<std::string> Port_Out_Names() {
-    return {"Synth"};
-}
-std::vector<std::string> Port_In_Names() {
-    return {};
-}
-Port_Result Port_Out_Open(int, Port_Handle& handle) {
-    handle = 1;
-    return Port_Ok;
-}
-Port_Result Port_Out_Close(Port_Handle) {
-    return Port_Ok;
-}
-Port_Result Port_Out_Short(Port_Handle, std::uint32_t word) {
-    benchmark::DoNotOptimize(word);
-    return Port_Ok;
-}
-Port_Result Port_Out_Ready(Port_Handle) {
-    return Port_Ok;
-}
-Port_Result Port_Out_Long(Port_Handle, std::string_view bytes) {
-    benchmark::DoNotOptimize(bytes.data());
-    return Port_Ok;
-}
-std::string Port_Error_Text(Port_Result) {
-    return "";
-}
 namespace {
 
 void Prepare() {

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Takes the pictures of the documents from the real program: tools/picture.sh BUILD-FOLDER
 # Starts a virtual screen and a JACK server with a device each way, plays a little on the panel, and writes
-# docs/panel.png, docs/panel@2x.png and docs/setup.png.
+# docs/panel.png, docs/panel@2x.png, docs/sequencer.png and docs/setup.png.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 build=$(cd "$1" && pwd)
@@ -70,6 +70,32 @@ shoot() {
 shoot 1 "$docs/panel.png"
 sleep 4 # the server is busy behind a client that was killed
 shoot 2 "$docs/panel@2x.png"
+sleep 4
+
+# The sequencer's window: a pattern clicked in, running. Loud cells by the left button, soft ones by the right.
+shoot_sequencer() {
+    scale=2
+    menu=22
+    QT_SCALE_FACTOR=$scale "$folder/tonebench" &
+    local program=$!
+    sleep 2
+    xdotool key alt+m
+    sleep 0.3
+    xdotool key u
+    sleep 0.7
+    local cell
+    for cell in 0,12,1 0,5,3 1,9,1 2,5,1 2,12,3 3,2,1 4,0,1 4,8,3 5,2,1 6,5,1 6,12,3 7,9,1 7,7,3; do
+        IFS=, read -r step row button <<<"$cell"
+        xdotool mousemove $(((44 + step * 12 + 5) * scale)) $(((menu + 20 + row * 12 + 5) * scale)) click "$button"
+    done
+    xdotool mousemove $((329 * scale)) $(((menu + 159) * scale)) click 1 mousemove 1200 900
+    sleep 1.6
+    import -window root -crop $((424 * scale))x$((200 * scale))+0+$((menu * scale)) +repage "$1"
+    kill $program
+    wait $program 2>/dev/null || true
+}
+
+shoot_sequencer "$docs/sequencer.png"
 sleep 4
 
 rm "$folder/Tonebench.INI"

@@ -4,6 +4,7 @@
 
 #include "desk/timers.h"
 #include "panels/editor_printing.h"
+#include "panels/keyboard.h"
 #include "sequencer/sequence.h"
 #include "synth/tone.h"
 #include "synth/tuning.h"
@@ -210,7 +211,11 @@ Control Editor_Seq_Start = Plain("ED_Seq_Start", "Sequencer Start", true);
 Control Editor_Seq_Start_Pic = Plain("ED_Seq_Start_Pic", "", false);
 Control Editor_Seq_Stop = Plain("ED_Seq_Stop", "Sequencer Stop", true);
 Control Editor_Seq_Stop_Pic = Plain("ED_Seq_Stop_Pic", "", false);
-Control Editor_Keys_Pic = Plain("Keys_Pic", "Keyboard", true);
+Control Editor_Keys_Pic = {.name = "Keys_Pic",
+                           .spoken_name = "Keyboard",
+                           .help = Keys_Pic_Help,
+                           .window = &Editor,
+                           .focusable = true};
 Control Editor_Pic_Tonebench = Plain("Pic_Tonebench", "", false);
 Control Editor_Pic_Sign = Plain("Pic_Sign", "", false);
 
