@@ -1,9 +1,12 @@
 // What a touch costs: from a drag event at a control to the bytes handed to the port, the whole-tone
-// message, and a refresh of the panel. The port is one that only takes the bytes.
+// message, a refresh of the panel, and a step of the oscillator. The port is one that only takes the bytes.
 #include <benchmark/benchmark.h>
 
 #include "desk/windows.h"
 #include "midi/out.h"
+#include "oscillator/engine.h"
+#include "oscillator/stairs.h"
+#include "oscwin/oscwin.h"
 #include "panels/editor.h"
 #include "panels/steps.h"
 #include "shell/wiring.h"
@@ -85,6 +88,37 @@ void Sequencer_Note(benchmark::State& state) {
     }
 }
 
+// One tick: the cursor, the value, the text, the bytes. The pending events that it lets run are none here.
+void Oscillator_Step(benchmark::State& state) {
+    Prepare();
+    Window_Load(Oscillator);
+    for (auto unused : state) {
+        (void)unused;
+        Osc_Tick();
+    }
+}
+
+// A move event that leaps over the whole picture.
+void Oscillator_Drawing(benchmark::State& state) {
+    Prepare();
+    Window_Load(Oscillator);
+    int x = 0;
+    for (auto unused : state) {
+        (void)unused;
+        x = 126 - x;
+        Osc_Picture1_MouseMove(Osc_Left_Button, x, x);
+    }
+}
+
+void Oscillator_Redraw(benchmark::State& state) {
+    Prepare();
+    Window_Load(Oscillator);
+    for (auto unused : state) {
+        (void)unused;
+        Osc_Redraw();
+    }
+}
+
 }  // namespace
 
 #define FIGURES(name) \
@@ -96,6 +130,9 @@ FIGURES(Key_To_Bytes);
 FIGURES(Whole_Tone_Message);
 FIGURES(Panel_Refresh);
 FIGURES(Sequencer_Note);
+FIGURES(Oscillator_Step);
+FIGURES(Oscillator_Drawing);
+FIGURES(Oscillator_Redraw);
 #undef FIGURES
 
 BENCHMARK_MAIN();

@@ -3,6 +3,7 @@
 #include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPainter>
+#include <string_view>
 
 #include "desk/ansi_qt.h"
 #include "panels/key_codes_qt.h"
@@ -31,7 +32,9 @@ class Spoken_Control : public QAccessibleWidget {
 
   private:
     static QAccessible::Role Role(const Control_Widget& widget) {
-        return *widget.Record().kind != '\0' ? QAccessible::Slider : QAccessible::PushButton;
+        const std::string_view kind = widget.Record().kind;
+        if (kind == "led") return QAccessible::RadioButton;
+        return kind.empty() ? QAccessible::PushButton : QAccessible::Slider;
     }
 };
 
@@ -83,8 +86,9 @@ void Control_Widget::Show_Changes() {
     shown_ = record_;
 }
 
+// A control without a picture that takes no focus either is nothing to see.
 bool Control_Widget::Is_Field() const {
-    return record_.picture.store == Picture_Store::None;
+    return record_.picture.store == Picture_Store::None && record_.focusable;
 }
 
 void Control_Widget::paintEvent(QPaintEvent*) {
@@ -92,7 +96,10 @@ void Control_Widget::paintEvent(QPaintEvent*) {
     if (Is_Field()) {
         Paint_Field(painter);
     } else {
-        painter.drawPixmap(0, 0, Picture_Pixmap(record_.picture, devicePixelRatioF()));
+        // A control may be narrower than its picture: then it shows the middle of it.
+        const QPixmap& picture = Picture_Pixmap(record_.picture, devicePixelRatioF());
+        const double aside = (width() - picture.deviceIndependentSize().width()) / 2;
+        painter.drawPixmap(QPointF(picture.isNull() ? 0 : aside, 0), picture);
     }
     // The moving controls show the focus by blinking; the others need a mark of their own.
     if (hasFocus() && *record_.kind == '\0') {
@@ -179,7 +186,12 @@ void Control_Widget::keyPressEvent(QKeyEvent* event) {
         QWidget::keyPressEvent(event);
         return;
     }
+    Panel_Shift_State = Classic_Shift_State(*event);
     Guarded_Event([&] { panel_.events.key_pressed(record_, Classic_Key_Code(*event)); });
+}
+
+bool Control_Widget::focusNextPrevChild(bool next) {
+    return !record_.takes_tab && QWidget::focusNextPrevChild(next);
 }
 
 void Control_Widget::focusInEvent(QFocusEvent*) {

@@ -18,9 +18,6 @@ constexpr int Full_Scale = 99;  // the instrument's own display shows 0 to 99
 // The three-position switches; their highest position starts at 64 and is as far as keys go.
 constexpr double Three_Way_Ceiling = 64;
 
-// A switch that is dragged sends on a jump only: more than this away from the drag event before.
-constexpr int Switch_Send_Difference = 4;
-
 bool Is_Three_Way(std::size_t parameter) {
     return parameter == Parameter_Chorus_Mode || parameter == Parameter_LFO_Waveform;
 }
@@ -35,9 +32,8 @@ bool Is_Slider(std::size_t parameter) {
     });
 }
 
-// The control that has the focus; without one there is no thumb to move.
 void Set_Active_Top(int top) {
-    if (Editor.active_control != nullptr) Editor.active_control->top = top;
+    Window_Set_Active_Top(Editor, top);
 }
 
 // Which of four rows a byte belongs to, counted from the lowest; 4 above 127.
@@ -121,13 +117,8 @@ void Editor_Switch_Drag(int top_row, int bottom_row, std::size_t parameter, doub
     Tone_Byte(parameter) = Byte_Of(Panel_Scratch_Real);
     Editor_Switch_Place(top_row, bottom_row, parameter);
     // A slow drag moves the thumb without a message. The instrument hears the next jump, or the next key.
-    const std::int16_t value = To_Int16(Panel_Scratch_Real);
-    const auto this_parameter = static_cast<std::int16_t>(parameter);
-    if (std::abs(value - Panel_Last_Value) > Switch_Send_Difference && Panel_Last_Param == this_parameter) {
-        Editor_Send_Param(parameter);
-    }
-    Panel_Last_Value = value;
-    Panel_Last_Param = this_parameter;
+    const auto movement = Panel_Switch_Movement(parameter, To_Int16(Panel_Scratch_Real));
+    if (movement && std::abs(*movement) > Switch_Send_Difference) Editor_Send_Param(parameter);
     Tone_Saved = Flag_16::False;
 }
 

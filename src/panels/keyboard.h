@@ -11,6 +11,9 @@ inline constexpr const char* Keys_Pic_Help =
     "notes "
     "playing.";
 
+// The control of a window, with its help.
+Control Keys_Pic_Control(Window& window);
+
 // Left: keys down, and the first column of the sequence (all 13 rows, the empty ones with velocity 0) or,
 // where that is empty, the C major chord from middle C. Right: all notes off.
 void Keys_Pic_MouseDown(Control& keys, Mouse_Button button);

@@ -1,0 +1,9 @@
+// What every panel measures alike, in pixels.
+#pragma once
+
+inline constexpr int Switch_Pitch = 10;   // from one position of a switch to the next
+inline constexpr int Slider_Travel = 80;  // from value 0 to value 127
+inline constexpr int Thumb_Size = 16;
+inline constexpr double Thumb_Half = Thumb_Size / 2.0;
+inline constexpr int Editor_Width = 528;  // of both editor windows
+inline constexpr int Editor_Height = 456;
