@@ -149,6 +149,7 @@ play_sequencer() {
 
 # The Patch window opens at the upper left corner of the panel.
 play_patch() {
+    menu=21
     xdotool key ctrl+p
     sleep 0.5
     touch_control 28 120 Page_Up 4  # portamento time
@@ -158,7 +159,7 @@ play_patch() {
     touch_control 159 84 Page_Up 0  # unison 2
     touch_control 229 39 Page_Up 0  # vibrato
     touch_control 175 150 Page_Up 1 # detune
-    area="296 196 0 22"
+    area="296 196 0 $menu"
 }
 
 # Shoots at a device pixel ratio, behind what is played, into a file: the main window, or the area (width,
