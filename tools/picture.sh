@@ -162,6 +162,41 @@ play_patch() {
     area="296 196 0 $menu"
 }
 
+# The help window stands in the middle of the screen. Opens a page by its letter in the menu.
+open_help() {
+    xdotool key alt+h
+    sleep 0.4
+    xdotool key "$1"
+    sleep 0.8
+    area="640 404 $(((1280 / scale - 640) / 2)) $(((1100 / scale - 404) / 2))"
+}
+
+# A place in the help window.
+help_at() {
+    local width height left top
+    read -r width height left top <<<"$area"
+    echo $(((left + $1) * scale)) $(((top + $2) * scale))
+}
+
+play_help_about() {
+    open_help a
+    xdotool mousemove $(help_at 440 58) click 1
+}
+
+play_help_howto() {
+    open_help h
+    xdotool mousemove $(help_at 58 187) click 1 key Up Up
+    xdotool mousemove $(help_at 116 170) click 1 key Page_Up
+    xdotool mousemove $(help_at 236 172) click 1
+    xdotool mousemove $(help_at 308 176) click 1
+    xdotool mousemove $(help_at 188 212) click 1 key Page_Up Page_Up Page_Up Page_Up Page_Up
+}
+
+play_help_search() {
+    open_help s
+    xdotool type matr
+}
+
 # Shoots at a device pixel ratio, behind what is played, into a file: the main window, or the area (width,
 # height, left, top in logical pixels) that the playing names.
 shoot() {
@@ -186,6 +221,9 @@ shoot 2 play_panel "$docs/panel@2x.png"
 shoot 2 play_oscillator "$docs/oscillator.png"
 shoot 2 play_sequencer "$docs/sequencer.png"
 shoot 1 play_patch "$docs/patch.png"
+shoot 2 play_help_about "$docs/help_about.png"
+shoot 2 play_help_howto "$docs/help_howto.png"
+shoot 2 play_help_search "$docs/help_search.png"
 printf 'Synthesizer=Alpha Juno\n' >>"$folder/Tonebench.INI"
 shoot 2 play_juno "$docs/juno.png"
 shoot 2 play_envelope "$docs/juno_envelope.png"
