@@ -3,8 +3,8 @@
 # BUILD-FOLDER [SECONDS]
 # Starts a virtual screen and a JACK server, plays at the highest tempo (a step every 62 ms) with the
 # sequencer's window open and its lights running, drags a slider on the panel all the time, and looks at the
-# times at which the first note of each step arrives at another client. A step's due time is the first one's
-# plus so many intervals, with the middle of all differences as the first one's.
+# times by the system's clock at which the first note of each step arrives at another client. A step's due time
+# is the first one's plus so many intervals, with the middle of all differences as the first one's.
 set -euo pipefail
 build=$(cd "$1" && pwd)
 seconds=${2:-30}
@@ -19,7 +19,10 @@ read -r display <&3
 export DISPLAY=:$display
 jackd -r -n "$JACK_DEFAULT_SERVER" -d dummy -r $rate -p 128 >/dev/null 2>&1 &
 sleep 1
-stdbuf -oL jack_midi_dump -a witness >"$folder/heard" 2>/dev/null &
+mkfifo "$folder/end"
+"$build/bench/step_witness" 144 60 <"$folder/end" >"$folder/heard" 2>/dev/null &
+witness=$!
+exec 4>"$folder/end"
 jack_midiseq sender $rate 0 60 8000 >/dev/null 2>&1 &
 sleep 1
 
@@ -52,24 +55,21 @@ sleep 0.5
 xdotool key alt+n 2>/dev/null || true
 wait $program 2>/dev/null || true
 
-python3 - "$folder/heard" $rate <<'EOF'
-import re, statistics, sys
+echo >&4
+wait $witness
+
+python3 - "$folder/heard" <<'EOF'
+import statistics, sys
 
 INTERVAL = 62
-TOP_NOTE = "90 3c "
-frames, others = [], 0
-for line in open(sys.argv[1], errors="replace"):
-    time, _, message = line.partition(":")
-    if message.strip().startswith(TOP_NOTE):
-        frames.append(int(re.sub(r"\D", "", time)))
-    elif message.strip().startswith("f0"):
-        others += 1
-times = [frame / int(sys.argv[2]) * 1000 for frame in frames]
+lines = open(sys.argv[1]).read().split("\n")
+times = [int(line) / 1000 for line in lines if line.isdigit()]
+others = next(line.split()[0] for line in lines if line.endswith("others"))
 late = [time - step * INTERVAL for step, time in enumerate(times)]
 middle = statistics.median(late)
 off = [abs(difference - middle) for difference in late]
 inside = sum(difference <= 2 for difference in off)
-print(f"{len(off)} steps at {INTERVAL} ms, with {others} messages of the slider between them")
+print(f"{len(off)} steps at {INTERVAL} ms, with {others} other messages beside their first notes")
 print(f"within 2 ms of their due time: {100 * inside / len(off):.2f} %, the furthest {max(off):.1f} ms off")
 print(f"the last step against the first: {late[-1] - late[0]:+.1f} ms")
 EOF

@@ -53,6 +53,8 @@ Sequencer_Window::Sequencer_Window(QMainWindow* parent)
     tempo_->setAccessibleName("Tempo");
     tempo_->setRange(Seq_Lowest_Tempo, Seq_Highest_Tempo);
     tempo_->setPageStep(Seq_Tempo_Page);
+    // Right and up are faster, by keys and wheel: a scroll bar by itself means the place in a text.
+    tempo_->setInvertedControls(false);
     tempo_->setFocusPolicy(Qt::StrongFocus);
     tempo_->setGeometry(303, 105, 114, 18);
     connect(tempo_, &QScrollBar::valueChanged,

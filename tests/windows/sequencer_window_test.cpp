@@ -176,10 +176,14 @@ TEST_F(Sequencer_On_Screen, moves_the_tempo_by_key_and_shows_it) {
     EXPECT_EQ(tempo->maximum(), 120);
     EXPECT_EQ(tempo->value(), 30);
     tempo->setFocus();
-    Type(Qt::Key_PageDown);
+    Type(Qt::Key_PageUp);
     EXPECT_EQ(Seq_Tempo_Value, 60);
     EXPECT_EQ(static_cast<QLabel*>(Widget("Seq_Tempo_Label"))->text(), "60");
     Type(Qt::Key_Right);
+    EXPECT_EQ(Seq_Tempo_Value, 61);
+    Type(Qt::Key_Up);
+    EXPECT_EQ(Seq_Tempo_Value, 62);
+    Type(Qt::Key_Left);
     EXPECT_EQ(Seq_Tempo_Value, 61);
     Type(Qt::Key_End);
     EXPECT_EQ(Seq_Tempo_Value, 120);
