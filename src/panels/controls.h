@@ -26,6 +26,7 @@ struct Control {
     const char* name = "";
     const char* kind = "";
     const char* spoken_name = "";  // for screen readers
+    const char* help = "";         // what it is for, shown to a pointer that rests on it
     Window* window = nullptr;
     Control* parent = nullptr;  // the control that this one lies on (a dot's knob, a symbol's button)
     Control* symbol = nullptr;  // of a push button: the picture that lies on it
@@ -40,6 +41,7 @@ struct Control {
     bool focusable = false;
     bool takes_tab =
         false;  // the TAB key is a key like any other here, and does not move the focus by itself
+    bool tab_stop = true;  // TAB stops here; else the pointer and the rules alone give the focus
     bool visible = true;
     bool enabled = true;
     std::int16_t help_context = 0;

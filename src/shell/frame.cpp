@@ -156,6 +156,7 @@ bool Main_Close() {
     // A window that still stands open goes with the frame, and keeps its own settings as at any close.
     Window_Unload(MIDI_Setup);
     Window_Unload(TName);
+    Window_Unload(Help);
     Window_Unload(Input_Dlg);
     Window_Unload(File_Dlg);
     Window_Unload(Oscillator);

@@ -3,6 +3,8 @@
 #include "desk/timers.h"
 #include "filedlg/file_dlg.h"
 #include "filedlg/input_dlg.h"
+#include "help/help.h"
+#include "help/howto.h"
 #include "oscwin/oscwin.h"
 #include "panels/controls.h"
 #include "panels/editor.h"
@@ -40,6 +42,8 @@ void Program_Wire() {
     File_Dlg_Install();
     Input_Install();
     Osc_Install();
+    Help_Install();
+    Help_Show_Waiting = Howto_Show_Waiting;
     Commands_Install();
     Tone_Commands_Install();
     Sequence_Commands_Install();

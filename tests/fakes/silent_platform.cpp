@@ -26,6 +26,9 @@ bool Event_Loop_Wait(int) {
 double Display_Logical_Density() {
     return 96;
 }
+int Display_Width() {
+    return 1920;
+}
 int Display_Height() {
     return 1080;
 }

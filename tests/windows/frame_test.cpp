@@ -39,7 +39,7 @@ class Frame : public Screen {
 
 TEST_F(Frame, shows_the_menus_that_have_a_function) {
     Start();
-    EXPECT_EQ(Bar(), (QStringList{"&File", "&Edit", "&MIDI", "&Tone", "&Windows"}));
+    EXPECT_EQ(Bar(), (QStringList{"&File", "&Edit", "&MIDI", "&Tone", "&Windows", "&Help"}));
     EXPECT_TRUE(Entry("Menu_File_Exit")->isVisible());
     EXPECT_TRUE(Entry("Menu_MIDI_Setup")->isVisible());
     EXPECT_TRUE(Entry("Menu_MIDI_CloseOutput")->isVisible());
