@@ -129,8 +129,27 @@ play_oscillator() {
     area="394 192 67 $((132 + menu))"
 }
 
+# The sequencer's window, which stands at the panel's corner: a pattern clicked in, running. Loud cells by the
+# left button, soft ones by the right.
+play_sequencer() {
+    menu=21
+    xdotool key alt+m
+    sleep 0.3
+    xdotool key u
+    sleep 0.7
+    local cell step row button
+    for cell in 0,12,1 0,5,3 1,9,1 2,5,1 2,12,3 3,2,1 4,0,1 4,8,3 5,2,1 6,5,1 6,12,3 7,9,1 7,7,3; do
+        IFS=, read -r step row button <<<"$cell"
+        xdotool mousemove $(((49 + step * 12) * scale)) $(((menu + 25 + row * 12) * scale)) click "$button"
+    done
+    xdotool mousemove $((329 * scale)) $(((menu + 159) * scale)) click 1 mousemove 1200 900
+    sleep 1.4
+    area="424 200 0 $menu"
+}
+
 # The Patch window opens at the upper left corner of the panel.
 play_patch() {
+    menu=21
     xdotool key ctrl+p
     sleep 0.5
     touch_control 28 120 Page_Up 4  # portamento time
@@ -140,7 +159,7 @@ play_patch() {
     touch_control 159 84 Page_Up 0  # unison 2
     touch_control 229 39 Page_Up 0  # vibrato
     touch_control 175 150 Page_Up 1 # detune
-    area="296 196 0 22"
+    area="296 196 0 $menu"
 }
 
 # The help window stands in the middle of the screen. Opens a page by its letter in the menu.
@@ -200,6 +219,7 @@ shoot() {
 shoot 1 play_panel "$docs/panel.png"
 shoot 2 play_panel "$docs/panel@2x.png"
 shoot 2 play_oscillator "$docs/oscillator.png"
+shoot 2 play_sequencer "$docs/sequencer.png"
 shoot 1 play_patch "$docs/patch.png"
 shoot 2 play_help_about "$docs/help_about.png"
 shoot 2 play_help_howto "$docs/help_howto.png"

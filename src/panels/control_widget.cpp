@@ -57,6 +57,8 @@ void Control_Widgets_Speak() {
 Control_Widget::Control_Widget(Control& record, const Panel& panel, QWidget* parent)
     : QWidget(parent), record_(record), panel_(panel), shown_(record) {
     setObjectName(record.name);
+    // As a paragraph, so that a long text is broken into lines.
+    if (*record.help != '\0') setToolTip(QString("<p>%1</p>").arg(QString(record.help).toHtmlEscaped()));
     Show_Focus_Policy();
     // A symbol or a decoration lets the pointer through to what it lies on.
     setAttribute(Qt::WA_TransparentForMouseEvents, !record.focusable);

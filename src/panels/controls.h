@@ -26,6 +26,7 @@ struct Control {
     const char* name = "";
     const char* kind = "";
     const char* spoken_name = "";  // for screen readers
+    const char* help = "";         // what it is for, shown to a pointer that rests on it
     Window* window = nullptr;
     Control* parent = nullptr;  // the control that this one lies on (a dot's knob, a symbol's button)
     Control* symbol = nullptr;  // of a push button: the picture that lies on it

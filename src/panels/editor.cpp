@@ -4,6 +4,7 @@
 
 #include "desk/timers.h"
 #include "panels/editor_printing.h"
+#include "panels/keyboard.h"
 #include "sequencer/sequence.h"
 #include "synth/tone.h"
 #include "synth/tuning.h"
@@ -179,7 +180,7 @@ Control Editor_Seq_Start = Plain_Control(Editor, "ED_Seq_Start", "Sequencer Star
 Control Editor_Seq_Start_Pic = Plain_Control(Editor, "ED_Seq_Start_Pic", "", false);
 Control Editor_Seq_Stop = Plain_Control(Editor, "ED_Seq_Stop", "Sequencer Stop", true);
 Control Editor_Seq_Stop_Pic = Plain_Control(Editor, "ED_Seq_Stop_Pic", "", false);
-Control Editor_Keys_Pic = Plain_Control(Editor, "Keys_Pic", "Keyboard", true);
+Control Editor_Keys_Pic = Keys_Pic_Control(Editor);
 Control Editor_Pic_Tonebench = Plain_Control(Editor, "Pic_Tonebench", "", false);
 Control Editor_Pic_Sign = Plain_Control(Editor, "Pic_Sign", "", false);
 

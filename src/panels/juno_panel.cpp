@@ -5,6 +5,7 @@
 #include "panels/editor.h"
 #include "panels/juno_envelope.h"
 #include "panels/juno_printing.h"
+#include "panels/keyboard.h"
 #include "synth/juno.h"
 #include "synth/tone.h"
 #include "synth/views.h"
@@ -100,7 +101,7 @@ Control Juno_Seq_Start = Plain("ED_Seq_Start", "Sequencer Start", true);
 Control Juno_Seq_Start_Pic = Plain("ED_Seq_Start_Pic", "", false);
 Control Juno_Seq_Stop = Plain("ED_Seq_Stop", "Sequencer Stop", true);
 Control Juno_Seq_Stop_Pic = Plain("ED_Seq_Stop_Pic", "", false);
-Control Juno_Keys_Pic = Plain("Keys_Pic", "Keyboard", true);
+Control Juno_Keys_Pic = Keys_Pic_Control(Editor_Juno);
 Control Juno_Pic_Tonebench = Plain("Pic_Tonebench", "", false);
 Control Juno_Pic_Sign = Plain("Pic_Sign", "", false);
 

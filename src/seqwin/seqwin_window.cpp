@@ -37,10 +37,7 @@ Sequencer_Window::Sequencer_Window(QMainWindow* parent)
         controls_.push_back(new Control_Widget(*control, Seq_Panel, below));
     }
     // The keys are for the pointer: thirteen stops on the way to the next control would be a nuisance.
-    for (std::size_t key = 0; key < Seq_Keys.size(); ++key) {
-        controls_[key]->setFocusPolicy(Qt::NoFocus);
-        controls_[key]->setToolTip(Seq_Keys_Help);
-    }
+    for (std::size_t key = 0; key < Seq_Keys.size(); ++key) controls_[key]->setFocusPolicy(Qt::NoFocus);
     key_names_ = new Seq_Key_Names(this);
     for (std::size_t index = 0; index < Seq_Directions.size(); ++index) {
         auto* direction = new Seq_Direction_Widget(Seq_Directions[index], this);
@@ -56,6 +53,8 @@ Sequencer_Window::Sequencer_Window(QMainWindow* parent)
     tempo_->setAccessibleName("Tempo");
     tempo_->setRange(Seq_Lowest_Tempo, Seq_Highest_Tempo);
     tempo_->setPageStep(Seq_Tempo_Page);
+    // Right and up are faster, by keys and wheel: a scroll bar by itself means the place in a text.
+    tempo_->setInvertedControls(false);
     tempo_->setFocusPolicy(Qt::StrongFocus);
     tempo_->setGeometry(303, 105, 114, 18);
     connect(tempo_, &QScrollBar::valueChanged,
