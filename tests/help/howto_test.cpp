@@ -144,7 +144,7 @@ TEST_F(Practice, gives_the_tick_back_to_the_tones_name_when_it_is_closed) {
     Tone_Name_Text = "BRASS";
     Advance(2000ms);
     EXPECT_EQ(Display_Text(), "99");
-    EXPECT_EQ(Shown(), "BRASS");
+    EXPECT_EQ(Editor_Tone_Name.text, "BRASS");
 }
 
 TEST_F(Practice, keeps_its_values_from_one_opening_to_the_next_and_nothing_else) {

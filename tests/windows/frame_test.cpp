@@ -52,6 +52,8 @@ TEST_F(Frame, shows_the_menus_that_have_a_function) {
 
 TEST_F(Frame, shows_an_entry_as_soon_as_it_has_a_function) {
     Start();
+    Menu(Menu_Help_About).chosen = {};
+    window_->Show_Changes();
     EXPECT_FALSE(Entry("Menu_Help_About")->isVisible());
     Menu(Menu_Help_About).chosen = [] {};
     window_->Show_Changes();
