@@ -140,7 +140,7 @@ QWidget* Help_Window::Make_Credits() {
     about_ = Text("About", "Informations");
     credits_ = List("Credits", "Credits", Help_Credits_Click);
     credits_why_ = Read_Out("Credits_Why", "Reason");
-    credits_why_->setFixedHeight(56);
+    credits_why_->setFixedHeight(74);
 
     auto* signs = new QHBoxLayout;
     signs->setSpacing(16);

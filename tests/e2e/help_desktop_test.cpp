@@ -88,8 +88,8 @@ TEST_F(Help_On_The_Desktop, is_practised_on_and_heard_by_nobody) {
 
     Press_Key("Escape");
     ASSERT_TRUE(Wait_For_Window("^Tonebench Help$", false));
+    EXPECT_EQ(Messages_Dumped(*witness_), std::vector<std::string>{});
     Press_Key("ctrl+x");
     EXPECT_EQ(program_->Wait_For_End(10s), 0) << "nothing to save, nothing asked";
-    EXPECT_EQ(Messages_Dumped(*witness_), std::vector<std::string>{}) << "the port was never opened";
     EXPECT_EQ(program_->Errors(), std::vector<std::string>{});
 }

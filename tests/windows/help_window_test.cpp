@@ -261,6 +261,7 @@ TEST_F(Help_On_Screen, shows_its_display_whole) {
 TEST_F(Help_On_Screen, has_printing_clear_of_its_controls) {
     Open(Menu_Help_Howto);
     for (const Print_Text& text : Howto_Printing().texts) {
+        if (text.text.empty()) continue;
         const double width =
             QFontMetricsF(Printing_Font(text.size)).horizontalAdvance(QString::fromStdString(text.text));
         double left = text.at.x;
