@@ -253,7 +253,7 @@ xdotool key ctrl+o
 sleep 0.5
 xdotool mousemove 100 120 click 1 # the third file
 sleep 2.5
-import -window root -crop 541x445+0+0 +repage "$docs/files_tones.png"
+import -window root -crop 540x444+0+0 +repage "$docs/files_tones.png"
 xdotool key Escape
 sleep 0.5
 for key in alt+f q o; do
@@ -263,4 +263,4 @@ done
 sleep 0.5
 xdotool mousemove 100 80 click 1
 sleep 0.5
-import -window root -crop 541x445+0+0 +repage "$docs/files_sequences.png"
+import -window root -crop 540x444+0+0 +repage "$docs/files_sequences.png"

@@ -3,6 +3,7 @@
 #include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
 #include <string_view>
 
 #include "desk/ansi_qt.h"
@@ -103,10 +104,11 @@ void Control_Widget::paintEvent(QPaintEvent*) {
     if (Is_Field()) {
         Paint_Field(painter);
     } else {
-        // A control may be narrower than its picture: then it shows the middle of it.
+        // A control may be narrower than its picture: then it shows the middle of it. A wider one has a
+        // caption of its own beside the picture.
         const QPixmap& picture = Picture_Pixmap(record_.picture, devicePixelRatioF());
         const double aside = (width() - picture.deviceIndependentSize().width()) / 2;
-        painter.drawPixmap(QPointF(picture.isNull() ? 0 : aside, 0), picture);
+        painter.drawPixmap(QPointF(std::min(aside, 0.0), 0), picture);
     }
     // The moving controls show the focus by blinking; the others need a mark of their own.
     if (hasFocus() && *record_.kind == '\0') {
