@@ -3,6 +3,7 @@
 #include "desk/timers.h"
 #include "panels/controls.h"
 #include "panels/editor.h"
+#include "panels/receive_mode.h"
 #include "sequencer/engine.h"
 #include "seqwin/seqwin.h"
 #include "setup/setup.h"
@@ -12,11 +13,14 @@
 #include "shell/settings_file.h"
 #include "shell/tone_commands.h"
 #include "shell/window_commands.h"
+#include "synth/reception.h"
 
 void Program_Wire() {
     Controls_Install();
     Sequencer_Install();
     Editor_Install();
+    Reception_Install();
+    Receive_Mode_Install();
     Seqwin_Install();
     Setup_Install();
     Commands_Install();
