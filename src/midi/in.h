@@ -1,6 +1,7 @@
 // The input side: one port, open only while a tone is waited for.
 //
-//      port --> MIDI_In_Buffers 1 to 4 --> MIDI_In_Pending_1, _2 --> MidiNotifyControl_Change --> MIDI_In_Message
+//      port --> MIDI_In_Buffers 1 to 4 --> MIDI_In_Pending_1, _2 --> MidiNotifyControl_Change -->
+//      MIDI_In_Message
 //
 // Everything here runs on the interface thread. What comes while both pending strings are in use, or while
 // an earlier message is still being worked on, waits in the port.
@@ -39,8 +40,8 @@ struct MIDI_In_Buffer {
 // Index 0 is never used and never released.
 extern std::array<MIDI_In_Buffer, 5> MIDI_In_Buffers;
 
-// Opens the device MIDI_In_Device and gives it the buffers. Does nothing while the port is open or when there
-// is no device. A failure is shown and leaves the port closed.
+// Opens the device MIDI_In_Device and gives it the buffers. Does nothing while the port is open or when
+// there is no device. A failure is shown and leaves the port closed.
 void MIDI_In_Open();
 
 // Closes the port if there is one; always leaves MIDI_In_Handle at -1.

@@ -56,9 +56,9 @@ Port_Result Port_Out_Long(Port_Handle handle, std::string_view bytes);
 
 // -- the input ------------------------------------------------------------------------------------------
 //
-// It hands over whole system exclusive messages, F0 to F7, in the order in which they came. Notes, clock and
-// active sensing are dropped, also where they come in the middle of a message. What arrives waits in the
-// port, some thousand dumps of it, until it is fetched; each arrival asks for a Wake_Up (wake_up.h).
+// It hands over whole system exclusive messages, F0 to F7, in the order in which they came. Notes, clock
+// and active sensing are dropped, also where they come in the middle of a message. What arrives waits in
+// the port, some thousand dumps of it, until it is fetched; each arrival asks for a Wake_Up (wake_up.h).
 
 // The longest message that is taken. A longer one is refused as a whole and takes no room.
 inline constexpr std::size_t Port_In_Longest = 4096;

@@ -3,9 +3,9 @@
 //      RtMidi's thread                                            interface thread
 //      pieces --> Sysex_Pieces --> Message_Ring --> Wake_Up  ...  Port_In_Next --> a buffer
 //
-// RtMidi puts pieces together too, but a note in the middle ends a message for it on ALSA and becomes a part
-// of it on JACK, and one without an end runs into the next. So what it hands over is taken as bytes again.
-// It collects a message of any length: what it holds is bounded only by how long the port is open.
+// RtMidi puts pieces together too, but a note in the middle ends a message for it on ALSA and becomes a
+// part of it on JACK, and one without an end runs into the next. So what it hands over is taken as bytes
+// again. It collects a message of any length: what it holds is bounded only by how long the port is open.
 #include <algorithm>
 #include <atomic>
 #include <deque>

@@ -58,7 +58,8 @@ bool Is_Compiled_In(RtMidi::Api api) {
 
 // The watch comes first: where it cannot be made, RtMidi need not be asked and has nothing to say.
 std::unique_ptr<Port_Clients> Made(RtMidi::Api api,
-                                   std::unique_ptr<Port_Watch> (*make_watch)(const std::string&, Port_Way)) {
+                                   std::unique_ptr<Port_Watch> (*make_watch)(const std::string&,
+                                                                             Port_Way)) {
     const std::string name(Port_Client_Name);
     if (!Is_Compiled_In(api)) return nullptr;
     auto clients = std::make_unique<Port_Clients>();
@@ -88,9 +89,7 @@ Port_Clients* Port_Clients_Reached() {
 std::unique_ptr<RtMidiIn> Port_In_Client(const Port_Clients& clients) {
     std::unique_ptr<RtMidiIn> client;
     const Error_Output_Kept errors;
-    (void)Asked([&] {
-        client = std::make_unique<RtMidiIn>(clients.api, std::string(Port_Client_Name));
-    });
+    (void)Asked([&] { client = std::make_unique<RtMidiIn>(clients.api, std::string(Port_Client_Name)); });
     if (!client || !errors.Is_Empty()) return nullptr;
     client->setErrorCallback(On_Error, nullptr);
     return client;

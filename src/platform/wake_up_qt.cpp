@@ -13,8 +13,8 @@
 
 namespace {
 
-// A counter that one thread adds to and the event loop sleeps on. It stays open for the life of the process,
-// so that a late thread never writes into something else.
+// A counter that one thread adds to and the event loop sleeps on. It stays open for the life of the
+// process, so that a late thread never writes into something else.
 std::atomic<int> Counter = -1;
 
 struct Listener_State {

@@ -32,9 +32,9 @@ struct Fake_Ports {
     bool in_present = true;
     bool in_refused = false;
 
-    std::vector<int> in_opened;           // device of each successful open
-    std::vector<std::string> in_calls;    // "reset 1", "page-unlock 3": closing, and every block released
-    std::deque<std::string> in_arrived;   // messages that nobody has fetched yet
+    std::vector<int> in_opened;            // device of each successful open
+    std::vector<std::string> in_calls;     // "reset 1", "page-unlock 3": closing, and every block released
+    std::deque<std::string> in_arrived;    // messages that nobody has fetched yet
     std::deque<Block_Address> in_buffers;  // given to the port
     Port_Handle in_handle = Port_Closed;
 };

@@ -11,7 +11,7 @@ using namespace std::chrono_literals;
 using Lines = std::vector<std::string>;
 
 Lines Messages;
-int Toggles = 0;
+int Left_Mode = 0;
 
 // What is released of one buffer, in this order.
 Lines Released(int data, int header) {
@@ -42,7 +42,7 @@ class MIDI_In : public Stage {
     MIDI_In() {
         MIDI_In_Message = [](const Byte_String& message) { Messages.push_back(message); };
         MIDI_Receive_Toggle = [] {
-            ++Toggles;
+            ++Left_Mode;
             MIDI_Receiving = 0;
             MIDI_In_Close();
         };
@@ -322,22 +322,22 @@ TEST_F(MIDI_In, looks_twice_a_second_whether_the_device_is_there_and_leaves_the_
     MIDI_In_Open();
     MIDI_Receiving = 1;
     Advance(1400ms);
-    EXPECT_EQ(Toggles, 0);
+    EXPECT_EQ(Left_Mode, 0);
     Ports.in_present = false;
     Ports.in_reset_result = 68;
     Expect_Box("vbMidiInClose: Text of 68");
     Advance(100ms);
-    EXPECT_EQ(Toggles, 1);
+    EXPECT_EQ(Left_Mode, 1);
     EXPECT_EQ(MIDI_In_Handle, -1);
     Advance(5000ms);
-    EXPECT_EQ(Toggles, 1);
+    EXPECT_EQ(Left_Mode, 1);
 }
 
 TEST_F(MIDI_In, that_is_open_outside_of_the_mode_is_closed_when_its_device_vanishes) {
     MIDI_In_Open();
     Ports.in_present = false;
     Advance(500ms);
-    EXPECT_EQ(Toggles, 0);
+    EXPECT_EQ(Left_Mode, 0);
     EXPECT_EQ(MIDI_In_Handle, -1);
 }
 

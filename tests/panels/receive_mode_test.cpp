@@ -87,7 +87,8 @@ TEST_F(Receive_Mode, is_left_with_the_port_closed_and_everything_free) {
     EXPECT_EQ(MIDI_Receiving, 0);
     EXPECT_EQ(MIDI_In_Handle, -1);
     EXPECT_EQ(Ports.in_handle, -1);
-    Expect_Pictures(Picture_Store::Button_Up3D, Picture_Store::Start_Disabled, Picture_Store::Stop_Disabled);
+    Expect_Pictures(Picture_Store::Button_Up3D, Picture_Store::Start_Disabled,
+                    Picture_Store::Stop_Disabled);
     EXPECT_EQ(Editor_Seq_Start_Pic.left, 3);
     Expect_Start_Enabled(true);
     Expect_Menus(true);

@@ -56,7 +56,8 @@ TEST(Sysex_Pieces_Of, one_piece_are_the_message_itself) {
 }
 
 TEST(Sysex_Pieces_Of, two_messages_in_a_row_are_both_found) {
-    EXPECT_EQ(Messages({0xF0, 1, 0xF7, 0xF0, 2, 0xF7}), (std::vector<Bytes>{{0xF0, 1, 0xF7}, {0xF0, 2, 0xF7}}));
+    EXPECT_EQ(Messages({0xF0, 1, 0xF7, 0xF0, 2, 0xF7}),
+              (std::vector<Bytes>{{0xF0, 1, 0xF7}, {0xF0, 2, 0xF7}}));
 }
 
 TEST(Sysex_Pieces_Of, a_message_without_its_end_are_nothing_yet) {
@@ -66,7 +67,8 @@ TEST(Sysex_Pieces_Of, a_message_without_its_end_are_nothing_yet) {
 }
 
 TEST(Sysex_Pieces_Of, what_stands_outside_of_a_message_are_dropped) {
-    EXPECT_EQ(Messages({0x90, 0x3C, 0x40, 0xF8, 0x01, 0xF7, 0xF0, 0x41, 0x01, 0xF7, 0xF7, 0x05, 0xFE}), One);
+    EXPECT_EQ(Messages({0x90, 0x3C, 0x40, 0xF8, 0x01, 0xF7, 0xF0, 0x41, 0x01, 0xF7, 0xF7, 0x05, 0xFE}),
+              One);
 }
 
 TEST(Sysex_Pieces_Of, real_time_in_the_middle_are_dropped) {
@@ -81,13 +83,20 @@ struct Foreign {
 
 TEST(Sysex_Pieces_Of, another_message_in_the_middle_are_dropped_with_their_data) {
     const std::vector<Foreign> all = {
-        {{0x83, 0x3C, 0x40}, "note off"},       {{0x9F, 0x3C, 0x40}, "note on"},
-        {{0xA0, 0x3C, 0x40}, "key pressure"},   {{0xB0, 0x7B, 0x00}, "controller"},
-        {{0xC0, 0x05}, "program"},              {{0xDF, 0x40}, "pressure"},
-        {{0xE0, 0x00, 0x40}, "bend"},           {{0xF1, 0x11}, "quarter frame"},
-        {{0xF2, 0x11, 0x12}, "song position"},  {{0xF3, 0x11}, "song"},
-        {{0xF4}, "undefined"},                  {{0xF5}, "undefined"},
-        {{0xF6}, "tune request"},               {{0x90, 0xF8, 0x3C, 0xFE, 0x40}, "a note with a clock in it"},
+        {{0x83, 0x3C, 0x40}, "note off"},
+        {{0x9F, 0x3C, 0x40}, "note on"},
+        {{0xA0, 0x3C, 0x40}, "key pressure"},
+        {{0xB0, 0x7B, 0x00}, "controller"},
+        {{0xC0, 0x05}, "program"},
+        {{0xDF, 0x40}, "pressure"},
+        {{0xE0, 0x00, 0x40}, "bend"},
+        {{0xF1, 0x11}, "quarter frame"},
+        {{0xF2, 0x11, 0x12}, "song position"},
+        {{0xF3, 0x11}, "song"},
+        {{0xF4}, "undefined"},
+        {{0xF5}, "undefined"},
+        {{0xF6}, "tune request"},
+        {{0x90, 0xF8, 0x3C, 0xFE, 0x40}, "a note with a clock in it"},
     };
     for (const Foreign& foreign : all) {
         const Bytes bytes = Bytes{0xF0, 0x41} + foreign.message + Bytes{0x01, 0xF7};

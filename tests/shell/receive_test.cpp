@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "desk/menus.h"
+#include "desk/settings.h"
 #include "desk/windows.h"
 #include "fakes/stage.h"
 #include "midi/in.h"
