@@ -370,6 +370,72 @@ def record_symbol():
     return s
 
 
+def folder(s, x, y, width, height, fill, open_by=0):
+    """A folder with its tab; an open one leans its front out."""
+    s.path(f"M{x},{y + 1.5}a1,1 0 0 1 1,-1h{width * 0.3:g}l1.5,1.5"
+           f"h{width * 0.7 - 3.5:g}a1,1 0 0 1 1,1v{height - 3}"
+           f"a1,1 0 0 1 -1,1h-{width - 2}a1,1 0 0 1 -1,-1z", fill)
+    if open_by:
+        s.path(f"M{x + open_by},{y + 4.5}h{width - 1}l-{open_by},"
+               f"{height - 4.5}h-{width - 1}z", ivory[0],
+               stroke=panel, stroke_width=0.8, stroke_linejoin="round")
+
+
+def up_symbol():
+    """Out of a folder and up; centred at (8,8) like all symbols."""
+    s = sheet(14, 14)
+    s.line("M12.5,12 H6.5 V4.5", printing, 1.8, stroke_linejoin="miter")
+    s.path("M2.8,7 L6.5,2.6 L10.2,7 Z", printing)
+    return s
+
+
+def new_folder_symbol():
+    s = sheet(14, 14)
+    folder(s, 2, 4, 11, 9, amber)
+    s.line("M10.5,1.2 V6.8 M7.7,4 H13.3", ink, 3.4)
+    s.line("M10.5,1.6 V6.4 M8.1,4 H12.9", "#6fe39a", 1.8)
+    return s
+
+
+def delete_symbol():
+    s = sheet(14, 14)
+    s.line("M4,4 L12,12 M12,4 L4,12", "#ff6a5c", 2.2, stroke_linecap="round")
+    return s
+
+
+def folder_icon(opened):
+    s = sheet(16, 14)
+    folder(s, 1, 1.5, 13 if opened else 14, 11,
+           "#b97a1c" if opened else amber, 1.5 if opened else 0)
+    return s
+
+
+def drive_icon():
+    s = sheet(16, 14)
+    s.rect(1, 4, 14, 7, "#5a5e66", 1.5)
+    s.frame(1, 4, 14, 7, "#8d929b", 1.5)
+    s.rect(3, 8, 6, 1, ink)
+    s.circle(12, 7.5, 1.1, "#6fe39a")
+    return s
+
+
+def cell(fill, rim):
+    """One cell in the small picture of a sequence."""
+    s = sheet(7, 7)
+    s.rect(0, 0, 7, 7, rim, 1)
+    s.rect(1, 1, 5, 5, fill, 0.5)
+    return s
+
+
+def lamp_off():
+    """A lamp that cannot be switched: flat glass, no metal round it."""
+    s = sheet(14, 14)
+    s.circle(7, 7, 5.5, ink)
+    s.ring(7, 7, 5.25, "#3b3e44", 0.9)
+    s.circle(7, 7, 3.6, "#26292e")
+    return s
+
+
 # ---------------------------------------------------------------------------
 # Check boxes and option buttons.
 # ---------------------------------------------------------------------------
@@ -531,14 +597,21 @@ def word(s, letters, x, y, h, pen, gap, colour):
 
 def caption_ok():
     s = sheet(51, 20)
-    word(s, [("O", 8, 0), ("K", 7, 0)], 14, 3, 13, 2, 3, printing)
+    word(s, [("O", 8, 0), ("K", 7, 0)], 18, 5, 13, 2, 3, printing)
     return s
 
 
 def caption_cancel():
     s = sheet(51, 20)
     word(s, [("C", 6, 0), ("a", 5, 3), ("n", 5, 3), ("c", 4, 3), ("e", 5, 3),
-             ("l", 0, 0)], 2, 3, 13, 2, 2, printing)
+             ("l", 0, 0)], 4, 5, 13, 2, 2, printing)
+    return s
+
+
+def tone_symbol(name):
+    """The letter of a tone, on its push button; centred like the symbols."""
+    s = sheet(14, 14)
+    word(s, [(name, 6, 0)], 4, 3, 10, 2, 2, printing)
     return s
 
 
@@ -630,6 +703,18 @@ def all_pictures():
         "led_1": lamp(("#ffd9d0", "#ff3a2c", "#d81410"), True),
         "led_2": lamp(("#e2ffe6", "#3fe070", "#12a544"), True),
         "led_3": lamp(("#fff2cc", "#ffb030", "#d97c08"), True),
+        "led_4": lamp(("#d4fff8", "#2fd8c8", "#109488"), True),
+        "led_5": lamp_off(),
+        "fd_symbols_0": up_symbol(),
+        "fd_symbols_1": new_folder_symbol(),
+        "fd_symbols_2": delete_symbol(),
+        "fd_icons_0": folder_icon(False),
+        "fd_icons_1": folder_icon(True),
+        "fd_icons_2": drive_icon(),
+        "fd_seq_pics_0": cell("#1f2226", "#2b2f35"),
+        "fd_seq_pics_1": cell("#1f2226", "#6c7077"),
+        "fd_seq_pics_2": cell("#ffb030", "#ffd694"),
+        "fd_seq_pics_3": cell("#8a5a14", "#a8741f"),
         "button_up3d": push_button(22, 22, False),
         "button_dn3d": push_button(22, 22, True),
         "start_enabled": play_symbol(True),
@@ -641,6 +726,8 @@ def all_pictures():
         "dlg2_dn": push_button(65, 34, True, 3),
         "dlg2_ok": caption_ok(),
         "dlg2_cancel": caption_cancel(),
+        "tone_a_pic": tone_symbol("A"),
+        "tone_b_pic": tone_symbol("B"),
         "seq_pics_0": sequencer_cell("empty"),
         "seq_pics_1": sequencer_cell("light"),
         "seq_pics_2": sequencer_cell("loud"),

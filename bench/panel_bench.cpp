@@ -1,43 +1,20 @@
 // What a touch costs: from a drag event at a control to the bytes handed to the port, the whole-tone
-// message, and a refresh of the panel. The port is one that only takes the bytes.
+// message, a refresh of the panel, and a step of the oscillator. The port is one that only takes the bytes.
 #include <benchmark/benchmark.h>
 
 #include "desk/windows.h"
 #include "midi/out.h"
+#include "oscillator/engine.h"
+#include "oscillator/stairs.h"
+#include "oscwin/oscwin.h"
 #include "panels/editor.h"
 #include "panels/steps.h"
-#include "platform/midi_port.h"
 #include "shell/wiring.h"
 #include "synth/messages.h"
 #include "synth/profile.h"
 #include "synth/tone.h"
 #include "synth/views.h"
 
-// Ports that only take the bytes: nothing of them is measured.
-std::vector<std::string> Port_Out_Names() {
-    return {"Synth"};
-}
-Port_Result Port_Out_Open(int, Port_Handle& handle) {
-    handle = 1;
-    return Port_Ok;
-}
-Port_Result Port_Out_Close(Port_Handle) {
-    return Port_Ok;
-}
-Port_Result Port_Out_Short(Port_Handle, std::uint32_t word) {
-    benchmark::DoNotOptimize(word);
-    return Port_Ok;
-}
-Port_Result Port_Out_Ready(Port_Handle) {
-    return Port_Ok;
-}
-Port_Result Port_Out_Long(Port_Handle, std::string_view bytes) {
-    benchmark::DoNotOptimize(bytes.data());
-    return Port_Ok;
-}
-std::string Port_Error_Text(Port_Result) {
-    return "";
-}
 namespace {
 
 void Prepare() {
@@ -111,6 +88,37 @@ void Sequencer_Note(benchmark::State& state) {
     }
 }
 
+// One tick: the cursor, the value, the text, the bytes. The pending events that it lets run are none here.
+void Oscillator_Step(benchmark::State& state) {
+    Prepare();
+    Window_Load(Oscillator);
+    for (auto unused : state) {
+        (void)unused;
+        Osc_Tick();
+    }
+}
+
+// A move event that leaps over the whole picture.
+void Oscillator_Drawing(benchmark::State& state) {
+    Prepare();
+    Window_Load(Oscillator);
+    int x = 0;
+    for (auto unused : state) {
+        (void)unused;
+        x = 126 - x;
+        Osc_Picture1_MouseMove(Osc_Left_Button, x, x);
+    }
+}
+
+void Oscillator_Redraw(benchmark::State& state) {
+    Prepare();
+    Window_Load(Oscillator);
+    for (auto unused : state) {
+        (void)unused;
+        Osc_Redraw();
+    }
+}
+
 }  // namespace
 
 #define FIGURES(name) \
@@ -122,6 +130,9 @@ FIGURES(Key_To_Bytes);
 FIGURES(Whole_Tone_Message);
 FIGURES(Panel_Refresh);
 FIGURES(Sequencer_Note);
+FIGURES(Oscillator_Step);
+FIGURES(Oscillator_Drawing);
+FIGURES(Oscillator_Redraw);
 #undef FIGURES
 
 BENCHMARK_MAIN();

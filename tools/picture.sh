@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
 # Takes the pictures of the documents from the real program: tools/picture.sh BUILD-FOLDER
 # Starts a virtual screen and a JACK server with a device each way, plays a little on the panel, and writes
-# docs/panel.png, docs/panel@2x.png and docs/setup.png.
+# the pictures of docs/. No menu opens the MKS-70's patch window or the file window's panel of oscillators; their
+# pictures, docs/patch_mks70.png and docs/files_oscillators.png, are what the windows' tests leave in the build
+# folder.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 build=$(cd "$1" && pwd)
@@ -29,13 +31,14 @@ touch_control() {
     for _ in $(seq "$times"); do xdotool key "$key"; done
 }
 
-# Shoots the window at a device pixel ratio into a file.
-shoot() {
-    scale=$1
-    menu=22
-    QT_SCALE_FACTOR=$scale "$folder/tonebench" &
-    local program=$!
-    sleep 2
+# Drags a control upward by so many rows.
+drag_control() {
+    local x=$((${1} * scale)) y=$((($2 + menu) * scale))
+    xdotool mousemove "$x" "$y" mousedown 1 mousemove "$x" $((y - $3 * scale)) mouseup 1
+    sleep 0.05
+}
+
+play_panel() {
     touch_control 27 70 Up 1        # range 8'
     touch_control 67 70 Home 1      # sawtooth
     touch_control 127 70 Up 1
@@ -61,16 +64,171 @@ shoot() {
     touch_control 53 445 Page_Up 2
     touch_control 92 445 Page_Up 5
     touch_control 446 120 Page_Up 3 # resonance last: its value stands in the display
-    sleep 0.2
-    import -window root -crop $((541 * scale))x$((508 * scale))+0+0 +repage "$2"
-    kill $program
-    wait $program 2>/dev/null || true
 }
 
-shoot 1 "$docs/panel.png"
-sleep 4 # the server is busy behind a client that was killed
-shoot 2 "$docs/panel@2x.png"
-sleep 4
+play_juno() {
+    touch_control 26 37 Down 1      # range 8'
+    drag_control 69 118 20
+    touch_control 237 67 Up 3       # pulse width modulation
+    touch_control 282 87 Up 1
+    touch_control 326 87 Up 4
+    touch_control 370 118 Up 2
+    drag_control 451 118 70
+    drag_control 481 118 50
+    drag_control 59 254 60
+    touch_control 107 254 Up 1
+    drag_control 147 254 80
+    drag_control 177 254 35
+    drag_control 237 254 70
+    drag_control 330 254 60
+    drag_control 409 254 110
+    drag_control 499 254 40
+    touch_control 32 390 Up 1       # chorus on
+    drag_control 75 390 60
+    touch_control 387 330 Up 7      # bender
+    drag_control 129 390 60
+    drag_control 159 390 118
+    drag_control 189 390 70
+    drag_control 219 390 50
+    drag_control 249 390 90
+    drag_control 279 390 85
+    drag_control 309 390 110
+    sleep 2.2 # the envelope goes and the name comes back
+}
+
+play_envelope() {
+    play_juno
+    drag_control 309 390 20
+}
+
+# A place in the oscillator's window, which stands in the middle of the main one.
+oscillator_at() {
+    echo $(((67 + $1) * scale)) $(((132 + menu + $2) * scale))
+}
+
+# Draws a curve by hand and plays it.
+play_oscillator() {
+    menu=21
+    xdotool key ctrl+i
+    sleep 1
+    xdotool mousemove $(oscillator_at 310 32) click 1
+    sleep 0.5
+    xdotool key v v Return # VCF Cutoff
+    xdotool mousemove $(oscillator_at 9 110) mousedown 1
+    for place in 16,96 23,80 30,64 37,52 44,46 51,48 58,58 65,74 72,92 79,104 86,106 93,98 100,84 107,70 114,60 121,56 \
+        131,58; do
+        xdotool mousemove $(oscillator_at "${place%,*}" "${place#*,}")
+    done
+    xdotool mouseup 1
+    xdotool mousemove $(oscillator_at 156 94) click 1
+    xdotool key Page_Up Up Up Up
+    xdotool mousemove $(oscillator_at 213 94) click 1
+    xdotool key Page_Down Page_Down Page_Down Page_Down
+    xdotool mousemove $(oscillator_at 20 172) click 1
+    sleep 1.9
+    area="394 192 67 $((132 + menu))"
+}
+
+# The sequencer's window, which stands at the panel's corner: a pattern clicked in, running. Loud cells by the
+# left button, soft ones by the right.
+play_sequencer() {
+    menu=21
+    xdotool key alt+m
+    sleep 0.3
+    xdotool key u
+    sleep 0.7
+    local cell step row button
+    for cell in 0,12,1 0,5,3 1,9,1 2,5,1 2,12,3 3,2,1 4,0,1 4,8,3 5,2,1 6,5,1 6,12,3 7,9,1 7,7,3; do
+        IFS=, read -r step row button <<<"$cell"
+        xdotool mousemove $(((49 + step * 12) * scale)) $(((menu + 25 + row * 12) * scale)) click "$button"
+    done
+    xdotool mousemove $((329 * scale)) $(((menu + 159) * scale)) click 1 mousemove 1200 900
+    sleep 1.4
+    area="424 200 0 $menu"
+}
+
+# The Patch window opens at the upper left corner of the panel.
+play_patch() {
+    menu=21
+    xdotool key ctrl+p
+    sleep 0.5
+    touch_control 28 120 Page_Up 4  # portamento time
+    touch_control 28 155 Page_Up 0  # portamento on, by the press
+    touch_control 94 120 Page_Up 2
+    touch_control 125 70 Up 2       # range 4
+    touch_control 159 84 Page_Up 0  # unison 2
+    touch_control 229 39 Page_Up 0  # vibrato
+    touch_control 175 150 Page_Up 1 # detune
+    area="296 196 0 $menu"
+}
+
+# The help window stands in the middle of the screen. Opens a page by its letter in the menu.
+open_help() {
+    xdotool key alt+h
+    sleep 0.4
+    xdotool key "$1"
+    sleep 0.8
+    area="640 404 $(((1280 / scale - 640) / 2)) $(((1100 / scale - 404) / 2))"
+}
+
+# A place in the help window.
+help_at() {
+    local width height left top
+    read -r width height left top <<<"$area"
+    echo $(((left + $1) * scale)) $(((top + $2) * scale))
+}
+
+play_help_about() {
+    open_help a
+    xdotool mousemove $(help_at 440 58) click 1
+}
+
+play_help_howto() {
+    open_help h
+    xdotool mousemove $(help_at 58 187) click 1 key Up Up
+    xdotool mousemove $(help_at 116 170) click 1 key Page_Up
+    xdotool mousemove $(help_at 236 172) click 1
+    xdotool mousemove $(help_at 308 176) click 1
+    xdotool mousemove $(help_at 188 212) click 1 key Page_Up Page_Up Page_Up Page_Up Page_Up
+}
+
+play_help_search() {
+    open_help s
+    xdotool type matr
+}
+
+# Shoots at a device pixel ratio, behind what is played, into a file: the main window, or the area (width,
+# height, left, top in logical pixels) that the playing names.
+shoot() {
+    scale=$1
+    menu=22
+    area="541 508 0 0"
+    QT_SCALE_FACTOR=$scale "$folder/tonebench" &
+    local program=$!
+    sleep 2
+    "$2"
+    sleep 0.2
+    local width height left top
+    read -r width height left top <<<"$area"
+    import -window root -crop $((width * scale))x$((height * scale))+$((left * scale))+$((top * scale)) +repage "$3"
+    kill $program
+    wait $program 2>/dev/null || true
+    sleep 4 # the server is busy behind a client that was killed
+}
+
+shoot 1 play_panel "$docs/panel.png"
+shoot 2 play_panel "$docs/panel@2x.png"
+shoot 2 play_oscillator "$docs/oscillator.png"
+shoot 2 play_sequencer "$docs/sequencer.png"
+shoot 1 play_patch "$docs/patch.png"
+shoot 2 play_help_about "$docs/help_about.png"
+shoot 2 play_help_howto "$docs/help_howto.png"
+shoot 2 play_help_search "$docs/help_search.png"
+printf 'Synthesizer=Alpha Juno\n' >>"$folder/Tonebench.INI"
+shoot 2 play_juno "$docs/juno.png"
+shoot 2 play_envelope "$docs/juno_envelope.png"
+
+cp "$build/patch_mks70.png" "$build/files_oscillators.png" "$docs"
 
 rm "$folder/Tonebench.INI"
 "$folder/tonebench" &
@@ -80,3 +238,29 @@ sleep 0.5
 xdotool key Return
 sleep 1
 import -window root -crop 541x508+0+0 +repage "$docs/setup.png"
+kill %% 2>/dev/null || true
+sleep 4
+
+# The file window: a tone and a sequence, pressed and heard.
+mkdir -p "$folder/Tones/Basses" "$folder/Tones/Leads" "$folder/Tones/Pads and Strings"
+cp "$build"/Tones/JX-8P/* "$folder/Tones"
+cp -r "$build/Sequences" "$folder"
+printf '[MIDI]\nOutput=instrument:input\nInput=keyboard:out\n[Recent Files]\nTones=%s\nSequences=%s\n' \
+    "$folder/Tones" "$folder/Sequences" >"$folder/Tonebench.INI"
+(cd "$folder" && exec ./tonebench) &
+sleep 2
+xdotool key ctrl+o
+sleep 0.5
+xdotool mousemove 100 120 click 1 # the third file
+sleep 2.5
+import -window root -crop 541x445+0+0 +repage "$docs/files_tones.png"
+xdotool key Escape
+sleep 0.5
+for key in alt+f q o; do
+    xdotool key "$key"
+    sleep 0.3
+done
+sleep 0.5
+xdotool mousemove 100 80 click 1
+sleep 0.5
+import -window root -crop 541x445+0+0 +repage "$docs/files_sequences.png"

@@ -1,5 +1,5 @@
-// The stock controls of dialogs, as records: drop-down lists and check boxes. The rules fill and read them,
-// the toolkit's windows show them and report what the user does.
+// The stock controls of windows, as records: drop-down lists, check boxes and scroll bars. The rules fill
+// and read them, the toolkit's windows show them and report what the user does.
 #pragma once
 
 #include <string>
@@ -18,4 +18,12 @@ struct Drop_Down {
 struct Check_Box {
     bool checked = false;
     bool enabled = true;
+};
+
+// Upright, the greatest value on top.
+struct Scroll_Bar {
+    int minimum = 0;
+    int maximum = 0;
+    int large_step = 1;
+    int value = 0;
 };

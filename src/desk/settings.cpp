@@ -1,6 +1,7 @@
 #include "desk/settings.h"
 
 #include <filesystem>
+#include <optional>
 #include <system_error>
 
 #include "platform/files.h"
@@ -11,14 +12,13 @@ namespace {
 
 constexpr std::size_t Longest_Value = 63;
 
-// A file that nobody may write keeps its contents. It would be replaced without being written to, so that
-// its mark has to be looked at by hand.
-bool Is_Marked_Read_Only(const std::string& path) {
-    using std::filesystem::perms;
-    constexpr perms Writing = perms::owner_write | perms::group_write | perms::others_write;
+// What a write starts from; nothing when the file is to stay as it is. One that cannot be read is not
+// written either: that would throw away what stands in it.
+std::optional<std::string> Text_To_Change() {
+    if (INI_File.empty() || File_Is_Read_Only(INI_File)) return std::nullopt;
     std::error_code error;
-    const std::filesystem::file_status file = std::filesystem::status(path, error);
-    return std::filesystem::is_regular_file(file) && (file.permissions() & Writing) == perms::none;
+    const bool there = std::filesystem::exists(INI_File, error);
+    return there ? File_Read_Whole(INI_File) : std::string();
 }
 
 }  // namespace
@@ -32,10 +32,16 @@ std::string Setting_Get(std::string_view section, std::string_view key, std::str
 }
 
 void Setting_Put(std::string_view section, std::string_view key, std::string_view value) {
-    if (INI_File.empty() || Is_Marked_Read_Only(INI_File)) return;
-    const std::string text = File_Read_Whole(INI_File).value_or(std::string());
+    Settings_Put({{section, key, std::string(value)}});
+}
+
+void Settings_Put(const std::vector<Setting_Value>& values) {
+    std::optional<std::string> text = Text_To_Change();
+    if (!text) return;
+    for (const Setting_Value& stored : values)
+        text = Profile_With_Value(*text, stored.section, stored.key, Trimmed(stored.value));
     // Nothing is told when this fails: settings are a comfort, never a reason to disturb the music.
-    (void)File_Replace(INI_File, Profile_With_Value(text, section, key, Trimmed(value)));
+    (void)File_Replace(INI_File, *text);
 }
 
 std::string Path_Add_Slash(std::string& path) {

@@ -23,12 +23,18 @@ Window Main_Window = {.name = "Tonebench", .width = 541, .height = 508};
 Window Editor = {.name = "Editor", .inside = true};
 Window Editor_Juno = {.name = "Editor_Juno", .inside = true};
 Window Patch = {.name = "Patch", .inside = true};
+Window Patch_MKS70 = {.name = "Patch_MKS70", .inside = true};
 Window Sequencer = {.name = "Sequencer", .inside = true};
+Window Oscillator = {.name = "Oscillator", .inside = true};
 Window MIDI_Setup = {.name = "MIDI_Setup"};
 Window TName = {.name = "TName"};
+Window Help = {.name = "Help"};
+Window File_Dlg = {.name = "File_Dlg"};
+Window Input_Dlg = {.name = "Input_Dlg"};
 
 Flag_8 Patch_Window_Open = Flag_8::False;
 Flag_8 Seq_Window_Open = Flag_8::False;
+Flag_8 Osc_Window_Open = Flag_8::False;
 
 std::int16_t Patch_Left = 0;
 std::int16_t Patch_Top = 0;
@@ -82,7 +88,7 @@ void Window_Centre_Over_Main(Window& window) {
 
 std::vector<Window*> Windows_Inside() {
     std::vector<Window*> open;
-    for (Window* window : {&Editor, &Editor_Juno, &Patch, &Sequencer}) {
+    for (Window* window : {&Editor, &Editor_Juno, &Patch, &Patch_MKS70, &Sequencer, &Oscillator}) {
         if (window->loaded && window->visible) open.push_back(window);
     }
     return open;

@@ -47,15 +47,22 @@ extern Window Main_Window;
 extern Window Editor;
 extern Window Editor_Juno;
 extern Window Patch;
+extern Window Patch_MKS70;
 extern Window Sequencer;
+extern Window Oscillator;
 extern Window MIDI_Setup;
 extern Window TName;
+extern Window Help;
+extern Window File_Dlg;
+extern Window Input_Dlg;
 
 // Whether the windows that may come and go stand open; written by their load and unload.
 extern Flag_8 Patch_Window_Open;
 extern Flag_8 Seq_Window_Open;
+extern Flag_8 Osc_Window_Open;
 
-// Remembered places, in twips.
+// Remembered places, in twips. That of Patch is the place of whichever of the two patch windows closed
+// last.
 extern std::int16_t Patch_Left;
 extern std::int16_t Patch_Top;
 extern std::int16_t Seq_Window_Left;

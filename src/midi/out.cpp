@@ -1,5 +1,7 @@
 #include "midi/out.h"
 
+#include <utility>
+
 #include "platform/event_loop.h"
 #include "platform/message_box.h"
 #include "platform/text.h"
@@ -32,8 +34,18 @@ std::int32_t Byte_At(const Byte_String& message, std::size_t place) {
 // the close sends will most likely fail too, and that is not told again.
 bool Port_Failing = false;
 
+// Sets MIDI_Out_Closing for its lifetime. An event of the wait may close too, and ends first.
+struct Closing_Mark {
+    const bool before = std::exchange(MIDI_Out_Closing, true);
+    Closing_Mark() = default;
+    Closing_Mark(const Closing_Mark&) = delete;
+    Closing_Mark& operator=(const Closing_Mark&) = delete;
+    ~Closing_Mark() { MIDI_Out_Closing = before; }
+};
+
 // Closes the port when it has played what it holds. Events run meanwhile, the wait sleeps between them.
 std::int16_t Close_When_Quiet() {
+    const Closing_Mark mark;
     bool windows_open = Event_Loop_Turn();
     while (windows_open) {
         // One of the events may have closed it.
@@ -64,6 +76,7 @@ std::string Error_Text(std::int16_t result, std::size_t buffer_size) {
 std::uint8_t MIDI_Enabled = 0;
 std::uint8_t MIDI_Channel = 1;
 Port_Handle MIDI_Out_Handle = Port_Closed;
+bool MIDI_Out_Closing = false;
 std::int16_t MIDI_Out_Device = 0;
 Byte_String MIDI_All_Off_Msg;
 std::int16_t Seq_Status = 0;

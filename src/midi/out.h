@@ -52,6 +52,10 @@ void MIDI_Out_Open();
 // All notes off, then closes the port; waits, with events running, while the port still plays.
 void MIDI_Out_Close();
 
+// True while that wait lasts. Who sends on and on, at every tick of a clock, would keep the port playing
+// and never let it close; such a sender stays silent meanwhile.
+extern bool MIDI_Out_Closing;
+
 // MIDI_Out_Close again and again until the port is closed. Also closes a port that was left open when MIDI
 // was switched off.
 void MIDI_Out_Close_Fully();

@@ -22,6 +22,7 @@ class Control_Widget : public QWidget {
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
@@ -29,6 +30,7 @@ class Control_Widget : public QWidget {
     bool Is_Field() const;
     void Take_Focus();
     void Paint_Field(QPainter& painter) const;
+    void Show_Focus_Policy();
 
     Control& record_;
     const Panel& panel_;

@@ -78,6 +78,7 @@ std::int16_t Panel_Last_Param = 0;
 std::int16_t Panel_Last_Value = 0;
 std::int16_t Panel_Knob_Last_Y = 0;
 double Panel_Scratch_Real = 0;
+int Panel_Shift_State = 0;
 std::array<Knob, 5> Panel_Knobs = {{{"kn1"}, {"kn2"}, {"kn2f"}, {"kn2fp"}, {"knh"}}};
 Hook<void()> Patch_Relight_Lamps;
 
@@ -112,7 +113,51 @@ void Panel_Knob_Dot(int centre_left, int centre_top, double degrees_a_unit) {
 void Panel_Knob_Show(const std::string& kind, int centre_top, int centre_left, double degrees_a_unit) {
     const Knob* knob = Knob_Of_Kind(kind);
     if (knob == nullptr || knob->dot == nullptr) return;
+    if (knob->dot->window != nullptr) Window_Load(*knob->dot->window);
     Place_Dot(*knob->dot, centre_left, centre_top, degrees_a_unit * knob->shown_value());
+}
+
+std::optional<int> Panel_Switch_Movement(std::size_t parameter, std::int16_t value) {
+    const auto this_parameter = static_cast<std::int16_t>(parameter);
+    std::optional<int> movement;
+    if (Panel_Last_Param == this_parameter) movement = value - Panel_Last_Value;
+    Panel_Last_Value = value;
+    Panel_Last_Param = this_parameter;
+    return movement;
+}
+
+std::int16_t Panel_Knob_Movement(double row) {
+    const std::int16_t now = To_Int16(row);
+    const std::int16_t movement = To_Int16(now - Panel_Knob_Last_Y);
+    Panel_Knob_Last_Y = now;
+    return movement;
+}
+
+Control Plain_Control(Window& window, const char* name, const char* spoken_name, bool focusable) {
+    return {.name = name, .spoken_name = spoken_name, .window = &window, .focusable = focusable};
+}
+
+void Control_Set_Place(Control& control, int left, int top, int width, int height) {
+    control.left = left;
+    control.top = top;
+    control.width = width;
+    control.height = height;
+}
+
+void Control_Set_Picture(Control& control, Picture_Store store, int item) {
+    control.picture = Picture_Of(store, item);
+    const Picture_Role& role = Role_Of(control.picture);
+    control.width = role.width;
+    control.height = role.height;
+}
+
+Button_Item Thumb_Of_Kind(std::string_view kind) {
+    if (kind == "bl") return Thumb_Left;
+    return kind == "br" ? Thumb_Right : Thumb_Slider;
+}
+
+void Window_Set_Active_Top(const Window& window, int top) {
+    if (window.active_control != nullptr) window.active_control->top = top;
 }
 
 void Controls_Install() {

@@ -4,6 +4,7 @@
 
 #include "desk/timers.h"
 #include "panels/editor_printing.h"
+#include "panels/keyboard.h"
 #include "sequencer/sequence.h"
 #include "synth/tone.h"
 #include "synth/tuning.h"
@@ -14,12 +15,8 @@ namespace {
 constexpr int Upper_Switch_Row = 32;
 constexpr int Lower_Switch_Row = 278;
 
-int Resting_Item(const Editor_Row& row) {
-    const std::string_view kind = row.kind;
-    if (kind == "bl") return Thumb_Left;
-    if (kind == "br") return Thumb_Right;
-    if (kind == "bm") return Thumb_Slider;
-    return Knob_Body;
+Button_Item Resting_Item(const Editor_Row& row) {
+    return Is_Knob(row.type) ? Knob_Body : Thumb_Of_Kind(row.kind);
 }
 
 std::array<Control, Editor_Table.size()> Controls_Of_Table() {
@@ -126,13 +123,6 @@ void Conceal() {
     Show_All(false);
 }
 
-void Set_Place(Control& control, int left, int top, int width, int height) {
-    control.left = left;
-    control.top = top;
-    control.width = width;
-    control.height = height;
-}
-
 // Everything that stands still: the columns of the table, and the rest of the window. Thumbs keep their
 // rows, which are the tone's.
 void Place_All() {
@@ -141,12 +131,12 @@ void Place_All() {
         Editor_Controls[index].left = row.left;
         if (Is_Knob(row.type)) Editor_Controls[index].top = row.top_row;
     }
-    Set_Place(Editor_Tone_Name, 105, 291, 121, 27);
-    Set_Place(Editor_Seq_Start, 190, 221, 22, 22);
-    Set_Place(Editor_Keys_Pic, 216, 221, 43, 22);
-    Set_Place(Editor_Seq_Stop, 263, 221, 22, 22);
-    Set_Place(Editor_Pic_Tonebench, 181, 150, 110, 50);
-    Set_Place(Editor_Pic_Sign, 197, 202, 79, 14);
+    Control_Set_Place(Editor_Tone_Name, 105, 291, 121, 27);
+    Control_Set_Place(Editor_Seq_Start, 190, 221, 22, 22);
+    Control_Set_Place(Editor_Keys_Pic, 216, 221, 43, 22);
+    Control_Set_Place(Editor_Seq_Stop, 263, 221, 22, 22);
+    Control_Set_Place(Editor_Pic_Tonebench, 181, 150, 110, 50);
+    Control_Set_Place(Editor_Pic_Sign, 197, 202, 79, 14);
 }
 
 void Arrange() {
@@ -157,23 +147,6 @@ void Arrange() {
 void Set_Sequencer_Symbols(Picture_Store start, Picture_Store stop) {
     Editor_Seq_Start_Pic.picture = Picture_Of(start);
     Editor_Seq_Stop_Pic.picture = Picture_Of(stop);
-}
-
-void Set_Picture(Control& control, Picture_Store store, int item = 0) {
-    control.picture = Picture_Of(store, item);
-    const Picture_Role& role = Role_Of(control.picture);
-    control.width = role.width;
-    control.height = role.height;
-}
-
-void Lay_Symbol(Control& button, Control& symbol) {
-    button.symbol = &symbol;
-    symbol.parent = &button;
-    Set_Place(symbol, 3, 3, 14, 14);
-}
-
-Control Plain(const char* name, const char* spoken_name, bool focusable) {
-    return {.name = name, .spoken_name = spoken_name, .window = &Editor, .focusable = focusable};
 }
 
 std::string Spoken_Value(const Control& control) {
@@ -187,15 +160,12 @@ std::string Spoken_Value(const Control& control) {
 }
 
 std::vector<Control*> Controls_In_Focus_Order() {
-    std::vector<Control*> controls = {&Editor_Pic_Tonebench, &Editor_Pic_Sign};
+    std::vector<Control*> controls;
     for (Control& control : Editor_Controls) {
         controls.push_back(&control);
         if (Control* dot = Editor_Dot_Of(control)) controls.push_back(dot);
     }
-    for (Control* control : {&Editor_Seq_Start, &Editor_Seq_Start_Pic, &Editor_Seq_Stop,
-                             &Editor_Seq_Stop_Pic, &Editor_Keys_Pic, &Editor_Tone_Name}) {
-        controls.push_back(control);
-    }
+    Common_Append_To(controls, Editor_Common);
     return controls;
 }
 
@@ -205,14 +175,25 @@ std::array<Control, Editor_Table.size()> Editor_Controls = Controls_Of_Table();
 Control DCO1_Tune_Knopf = Dot("DCO1_Tune_Knopf", "kn1", "DCO-1 Tune", 0);
 Control DCO2_Tune_Knopf = Dot("DCO2_Tune_Knopf", "kn2", "DCO-2 Tune", 0);
 Control DCO2_FTune_Knopf = Dot("DCO2_FTune_Knopf", "kn2f", "DCO-2 Fine Tune", 0);
-Control Editor_Tone_Name = Plain("Tone_Name", "Tone Name", true);
-Control Editor_Seq_Start = Plain("ED_Seq_Start", "Sequencer Start", true);
-Control Editor_Seq_Start_Pic = Plain("ED_Seq_Start_Pic", "", false);
-Control Editor_Seq_Stop = Plain("ED_Seq_Stop", "Sequencer Stop", true);
-Control Editor_Seq_Stop_Pic = Plain("ED_Seq_Stop_Pic", "", false);
-Control Editor_Keys_Pic = Plain("Keys_Pic", "Keyboard", true);
-Control Editor_Pic_Tonebench = Plain("Pic_Tonebench", "", false);
-Control Editor_Pic_Sign = Plain("Pic_Sign", "", false);
+Control Editor_Tone_Name = Plain_Control(Editor, "Tone_Name", "Tone Name", true);
+Control Editor_Seq_Start = Plain_Control(Editor, "ED_Seq_Start", "Sequencer Start", true);
+Control Editor_Seq_Start_Pic = Plain_Control(Editor, "ED_Seq_Start_Pic", "", false);
+Control Editor_Seq_Stop = Plain_Control(Editor, "ED_Seq_Stop", "Sequencer Stop", true);
+Control Editor_Seq_Stop_Pic = Plain_Control(Editor, "ED_Seq_Stop_Pic", "", false);
+Control Editor_Keys_Pic = Keys_Pic_Control(Editor);
+Control Editor_Pic_Tonebench = Plain_Control(Editor, "Pic_Tonebench", "", false);
+Control Editor_Pic_Sign = Plain_Control(Editor, "Pic_Sign", "", false);
+
+constinit const Common_Controls Editor_Common = {
+    .tone_name = Editor_Tone_Name,
+    .seq_start = Editor_Seq_Start,
+    .seq_start_pic = Editor_Seq_Start_Pic,
+    .seq_stop = Editor_Seq_Stop,
+    .seq_stop_pic = Editor_Seq_Stop_Pic,
+    .keys_pic = Editor_Keys_Pic,
+    .pic_tonebench = Editor_Pic_Tonebench,
+    .pic_sign = Editor_Pic_Sign,
+};
 
 const Panel Editor_Panel = {
     .window = &Editor,
@@ -247,26 +228,18 @@ Control& Editor_Control(const std::string& name) {
 
 void Editor_Load_Pictures() {
     Place_All();
-    Set_Picture(Editor_Keys_Pic, Picture_Store::Buttons, Keys_Up);
-    Set_Picture(Editor_Seq_Start, Picture_Store::Button_Up3D);
-    Set_Picture(Editor_Seq_Stop, Picture_Store::Button_Up3D);
-    Set_Picture(Editor_Seq_Start_Pic, Picture_Store::Start_Disabled);
-    Set_Picture(Editor_Seq_Stop_Pic, Picture_Store::Stop_Disabled);
-    Set_Picture(Editor_Pic_Tonebench, Picture_Store::Pic_Tonebench);
-    Set_Picture(Editor_Pic_Sign, Picture_Store::Pic_Sign);
+    Common_Load_Pictures(Editor_Common);
     for (std::size_t index = 0; index < Editor_Table.size(); ++index) {
         const Editor_Row& row = Editor_Table[index];
-        Set_Picture(Editor_Controls[index], Picture_Store::Buttons, Resting_Item(row));
+        Control_Set_Picture(Editor_Controls[index], Picture_Store::Buttons, Resting_Item(row));
         Editor_Controls[index].top = row.bottom_row;
     }
     for (const Dot_Row& row : Dots) {
-        Set_Picture(*row.dot, Picture_Store::Buttons, Knob_Dot);
+        Control_Set_Picture(*row.dot, Picture_Store::Buttons, Knob_Dot);
         row.dot->parent = &Editor_Control(row.knob);
         row.dot->left = Dot_Centre_Left;
         row.dot->top = 5;
     }
-    Lay_Symbol(Editor_Seq_Start, Editor_Seq_Start_Pic);
-    Lay_Symbol(Editor_Seq_Stop, Editor_Seq_Stop_Pic);
 }
 
 void Editor_Load() {

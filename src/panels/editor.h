@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <string>
 
+#include "panels/common_controls.h"
 #include "panels/controls.h"
 #include "panels/editor_table.h"
 #include "panels/panel.h"
@@ -28,6 +29,7 @@ extern Control Editor_Seq_Stop_Pic;
 extern Control Editor_Keys_Pic;  // the keyboard button
 extern Control Editor_Pic_Tonebench;
 extern Control Editor_Pic_Sign;
+extern const Common_Controls Editor_Common;
 
 // The window as its toolkit side sees it: every control in the order of the focus, and the handlers.
 extern const Panel Editor_Panel;
@@ -72,16 +74,9 @@ void Editor_Load_Pictures();
 void Editor_Activated();
 void Editor_Deactivated();
 
-// Sequencer buttons; the sequencer's own window runs these too.
-void ED_Seq_Start_Click();
+// Its stop button, click and release; the sequencer's own window runs these too.
 void ED_Seq_Stop_Click();
 void ED_Seq_Stop_MouseUp();
-
-// Filled in by the name dialog: opens it.
-extern Hook<void()> TName_Show;
-
-// Filled in by the sequencer's window: its start button gets the raised look.
-extern Hook<void()> Seq_Start_Raise;
 
 // Fills the hooks that Editor stands behind.
 void Editor_Install();

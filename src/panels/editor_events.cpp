@@ -1,21 +1,13 @@
 // The JX-8P panel's answers to pointer, keys and focus: the half of editor.h that handles events. The
 // handlers only pass the constants of the control's row on.
-#include "desk/timers.h"
-#include "midi/in.h"
-#include "midi/out.h"
 #include "panels/editor.h"
-#include "panels/keyboard.h"
-#include "panels/push_buttons.h"
 #include "panels/steps.h"
-#include "sequencer/engine.h"
-#include "sequencer/sequence.h"
+#include "panels/tune_knob.h"
 #include "synth/messages.h"
 #include "synth/tone.h"
 #include "synth/tuning.h"
 
 namespace {
-
-constexpr double Rows_A_Semitone = 4;  // of a drag
 
 std::size_t Parameter_Of(const Editor_Row& row) {
     return static_cast<std::size_t>(row.parameter);
@@ -27,9 +19,7 @@ void Knob_Key(const Editor_Row& row, int key) {
     const std::size_t parameter = Parameter_Of(row);
     std::uint8_t byte = 0;
     if (row.type == Control_Type::Tune_Knob) {
-        Panel_Scratch_Real = Tune_Step(Panel_Tune_From_Byte(Tone_Byte(parameter)), key);
-        byte = Panel_Tune_To_Byte(Panel_Scratch_Real);
-        Panel_Knob_Dot(Dot_Centre_Left, Dot_Centre_Top, Degrees_A_Semitone);
+        byte = Tune_Knob_Key(Tone_Byte(parameter), key);
     } else {
         byte = Narrow<std::uint8_t>(Fine_Step(Tone_Byte(parameter), key));
         Panel_Scratch_Real = Panel_Fine_From_Byte(byte);
@@ -39,25 +29,13 @@ void Knob_Key(const Editor_Row& row, int key) {
     Editor_Set_Value(parameter, byte);
 }
 
-// How far the pointer has moved since the last drag event. Behind a change of focus that counts from row 0
-// and not from the press, so the first event jumps by the row at which the pointer stands.
-std::int16_t Knob_Movement(double row) {
-    const std::int16_t now = To_Int16(row);
-    const std::int16_t movement = To_Int16(now - Panel_Knob_Last_Y);
-    Panel_Knob_Last_Y = now;
-    return movement;
-}
-
 void Knob_Drag(const Editor_Row& row, double pointer_row) {
     const std::size_t parameter = Parameter_Of(row);
     if (row.type == Control_Type::Tune_Knob) {
-        const double semitones =
-            Panel_Tune_From_Byte(Tone_Byte(parameter)) + Knob_Movement(pointer_row / Rows_A_Semitone);
-        Panel_Scratch_Real = Clamped(semitones, -12, 12);
-        Panel_Knob_Dot(Dot_Centre_Left, Dot_Centre_Top, Degrees_A_Semitone);
-        Editor_Set_Value(parameter, Panel_Tune_To_Byte(Panel_Scratch_Real));
+        Editor_Set_Value(parameter, Tune_Knob_Drag(Tone_Byte(parameter), pointer_row));
     } else {
-        const double byte = Clamped(Tone_Byte(parameter) + Knob_Movement(pointer_row), 0, Highest_Value);
+        const double byte =
+            Clamped(Tone_Byte(parameter) + Panel_Knob_Movement(pointer_row), 0, Highest_Value);
         Editor_Set_Value(parameter, Narrow<std::uint8_t>(byte));
         Panel_Scratch_Real = Panel_Fine_From_Byte(Tone_Byte(parameter));
         Panel_Knob_Dot(Dot_Centre_Left, Dot_Centre_Top, Degrees_A_Fine_Unit);
@@ -91,15 +69,8 @@ void Focus_Lost(Control&) {
     Panel_Restore_Picture();
 }
 
-void Open_Name_Dialog() {
-    if (App_Mode.empty()) TName_Show();
-}
-
 void Key_Pressed(Control& control, int key) {
-    if (&control == &Editor_Tone_Name) {
-        Open_Name_Dialog();
-        return;
-    }
+    if (Common_Key_Pressed(Editor_Common, control)) return;
     const Editor_Row* row = Editor_Row_Of(control);
     if (row == nullptr) return;
     switch (row->type) {
@@ -120,23 +91,8 @@ void Key_Pressed(Control& control, int key) {
     }
 }
 
-// A push button or the keyboard button; false for other controls.
-bool Other_Button_Pressed(Control& control, Mouse_Button button) {
-    if (&control == &Editor_Seq_Start) {
-        Button_Push(control);
-    } else if (&control == &Editor_Seq_Stop) {
-        Editor_Keys_Pic.picture = Picture_Of(Picture_Store::Buttons, Keys_Up);
-        Button_Push(control);
-    } else if (&control == &Editor_Keys_Pic) {
-        Keys_Pic_MouseDown(control, button);
-    } else {
-        return false;
-    }
-    return true;
-}
-
 void Button_Pressed(Control& control, Mouse_Button button) {
-    if (Other_Button_Pressed(control, button)) return;
+    if (Common_Button_Pressed(Editor_Common, control, button)) return;
     const Editor_Row* row = Editor_Row_Of(control);
     if (row == nullptr) return;
     if (row->type == Control_Type::Slider || Is_Knob(row->type)) {
@@ -159,26 +115,14 @@ void Pointer_Moved(Control& control, double pointer_row) {
 }
 
 void Button_Released(Control& control, Mouse_Button button) {
-    if (&control == &Editor_Seq_Start) {
-        // A running sequence holds the button down.
-        if (!Seq_Ready()) Button_Release(control);
-    } else if (&control == &Editor_Seq_Stop) {
-        ED_Seq_Stop_MouseUp();
-    } else if (&control == &Editor_Keys_Pic) {
-        Keys_Pic_MouseUp(control, button);
-    }
+    Common_Button_Released(Editor_Common, control, button);
 }
 
 void Clicked(Control& control) {
-    if (&control == &Editor_Tone_Name) Open_Name_Dialog();
-    if (&control == &Editor_Seq_Start) ED_Seq_Start_Click();
-    if (&control == &Editor_Seq_Stop) ED_Seq_Stop_Click();
+    Common_Clicked(Editor_Common, control);
 }
 
 }  // namespace
-
-Hook<void()> TName_Show;
-Hook<void()> Seq_Start_Raise;
 
 constinit const Panel_Events Editor_Events = {
     .focus_gained = Focus_Gained,
@@ -192,33 +136,9 @@ constinit const Panel_Events Editor_Events = {
     .deactivated = Editor_Deactivated,
 };
 
-void ED_Seq_Start_Click() {
-    if (!Seq_Ready()) return;
-    MIDI_Out_Open();
-    Seq_Pos = 0;
-    Seq_Status = Note_On_Status(MIDI_Channel);
-    Timer_Start(Seq_Tmr);
-    Seq_Running = Flag_8::True;
-}
-
 void ED_Seq_Stop_Click() {
-    if (MIDI_Receiving != 0) {
-        MIDI_Receive_Toggle();
-        return;
-    }
-    Timer_Stop(Seq_Tmr);
-    Seq_Clock_Dark();
-    Seq_Pos = 0;
-    Editor_Keys_Pic.picture = Picture_Of(Picture_Store::Buttons, Keys_Up);
-    MIDI_All_Notes_Off();
-    MIDI_Out_Close();
-    // A start that came in while the port was still playing would tick on a closed port.
-    Timer_Stop(Seq_Tmr);
-    Seq_Running = Flag_8::False;
+    Common_Seq_Stop_Click(Editor_Common);
 }
-
 void ED_Seq_Stop_MouseUp() {
-    Button_Release(Editor_Seq_Stop);
-    Button_Release(Editor_Seq_Start);
-    if (Is_True(Seq_Window_Open)) Seq_Start_Raise();
+    Common_Seq_Stop_MouseUp(Editor_Common);
 }

@@ -2,43 +2,17 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <cstddef>
-#include <numbers>
 #include <string_view>
 
+#include "panels/control_printing.h"
+#include "panels/knob_printing.h"
 #include "platform/numbers.h"
 
 namespace {
 
-constexpr double Heading_Size = 10;
-constexpr double Caption_Size = 9;
-constexpr double Position_Size = 9;
-constexpr double Scale_Size = 8;
-
-constexpr double Thumb_Half = Thumb_Size / 2.0;
-constexpr double Label_Gap = 2;    // between a thumb and what is printed beside it
-constexpr double Caption_Gap = 4;  // between a caption's base line and the highest thumb
-constexpr double Mark_Gap = 1;     // between a thumb and the marks of its scale
-constexpr double Long_Mark = 3;
-constexpr double Short_Mark = 2;
-constexpr double Digit_Half_Height = 3;  // from the middle of a figure to its base line
-
-// -- groups: a heading and an outline
-// -----------------------------------------------------------------------
-
-struct Group_Row {
-    const char* heading;
-    Print_Point heading_at;  // left end of the base line
-    std::vector<Print_Point> outline;
-};
-
-std::vector<Print_Point> Box(double left, double top, double right, double bottom) {
-    return {{left, top}, {right, top}, {right, bottom}, {left, bottom}};
-}
-
 // clang-format off
-const std::array<Group_Row, 10> Groups = {{
+const std::array<Panel_Group, 10> Groups = {{
     {"DCO-1",  {6, 14},    Box(0.5, 2.5, 101.5, 249.5)},
     {"DCO-2",  {110, 14},  {{104.5, 2.5}, {230.5, 2.5}, {230.5, 143.5}, {180.5, 143.5}, {180.5, 249.5}, {104.5, 249.5}}},
     {"MIXER",  {239, 14},  {{233.5, 2.5}, {336.5, 2.5}, {336.5, 329.5}, {233.5, 329.5}, {233.5, 252.5}, {292.5, 252.5}, {292.5, 143.5}, {233.5, 143.5}}},
@@ -53,12 +27,7 @@ const std::array<Group_Row, 10> Groups = {{
 
 // -- captions and positions ---------------------------------------------------------------------------------
 
-struct Position {
-    const char* name;
-    Symbol symbol = Symbol::None;  // drawn in place of the name, with `mark` beside it
-    const char* mark = "";
-};
-using Positions_List = std::array<Position, 4>;
+using Positions_List = std::array<Switch_Position, 4>;
 
 const Positions_List Ranges     = {{{"16'"}, {"8'"}, {"4'"}, {"2'"}}};
 const Positions_List Waves      = {{{"Noise", Symbol::Noise}, {"Square", Symbol::Square}, {"Pulse", Symbol::Pulse}, {"Sawtooth", Symbol::Sawtooth}}};
@@ -134,17 +103,10 @@ const Caption_Row& Caption_Of(const Editor_Row& row) {
     throw Fatal_Error(std::string("No caption for ") + row.control);
 }
 
-// Whether the table has another control within this many pixels to the right of a thumb, at its height.
-bool Neighbour_Within(const Editor_Row& row, int pixels) {
-    return std::any_of(Editor_Table.begin(), Editor_Table.end(), [&](const Editor_Row& other) {
-        const int gap = other.left - (row.left + Thumb_Size);
-        return gap >= 0 && gap < pixels && other.top_row <= row.bottom_row &&
-               other.bottom_row >= row.top_row;
-    });
-}
-
-double Middle_X(const Editor_Row& row) {
-    return row.left + Thumb_Half;
+std::vector<Thumb_Reach> Reaches() {
+    std::vector<Thumb_Reach> reaches;
+    for (const Editor_Row& row : Editor_Table) reaches.push_back({row.left, row.top_row, row.bottom_row});
+    return reaches;
 }
 
 bool Labels_On_Right(const Editor_Row& row) {
@@ -154,110 +116,35 @@ bool Labels_On_Right(const Editor_Row& row) {
 // -- what is printed at each type of control
 // ----------------------------------------------------------------
 
-void Print_Caption(Printing& printing, const Editor_Row& row, double middle) {
-    printing.texts.push_back({Caption_Of(row).caption,
-                              {middle, row.top_row - Caption_Gap},
-                              Align::Centre,
-                              Caption_Size,
-                              Ink::Print});
-}
-
-void Print_Rail(Printing& printing, const Editor_Row& row) {
-    const double x = Middle_X(row);
-    printing.lines.push_back(
-        {{{x, row.top_row + Thumb_Half}, {x, row.bottom_row + Thumb_Half}}, 3, Ink::Rail});
-}
-
-void Print_Figure(Printing& printing, const Editor_Row& row, int unit, double y) {
+void Print_Slider_Row(Printing& printing, const Editor_Row& row) {
     // The logo stands to the left of this one.
-    const bool right = std::string_view(row.control) == "Mixer_ENV";
-    const double x =
-        right ? row.left + Thumb_Size + Mark_Gap + Long_Mark + 1 : row.left - Mark_Gap - Long_Mark - 1;
-    printing.texts.push_back({std::to_string(unit),
-                              {x, y + Digit_Half_Height},
-                              right ? Align::Left : Align::Right,
-                              Scale_Size,
-                              Ink::Print});
+    const bool figures_right = std::string_view(row.control) == "Mixer_ENV";
+    Print_Slider(printing, Caption_Of(row).caption,
+                 {.left = row.left,
+                  .top_row = row.top_row,
+                  .marks_right = Marks_Fit_Right({row.left, row.top_row, row.bottom_row}, Reaches()),
+                  .figures_right = figures_right});
 }
 
-// Marks at 0 to 10 with figures at 0, 5 and 10: on both sides of the rail, or on the left alone where the
-// next thumb is near.
-void Print_Slider(Printing& printing, const Editor_Row& row) {
-    constexpr int Units = 10;
-    constexpr int Room_For_Marks = 20;
-    const bool both_sides = !Neighbour_Within(row, Room_For_Marks);
-    Print_Caption(printing, row, Middle_X(row));
-    Print_Rail(printing, row);
-    for (int unit = 0; unit <= Units; ++unit) {
-        const int rise = unit * Slider_Travel / Units;  // 8 pixels a unit
-        const double y = row.bottom_row + Thumb_Half - rise;
-        const bool numbered = unit % 5 == 0;
-        const double length = numbered ? Long_Mark : Short_Mark;
-        const double width = numbered ? 2 : 1;
-        const Ink ink = numbered ? Ink::Print : Ink::Faint;
-        const double left = row.left - Mark_Gap;
-        const double right = row.left + Thumb_Size + Mark_Gap;
-        printing.lines.push_back({{{left - length, y}, {left, y}}, width, ink});
-        if (both_sides) printing.lines.push_back({{{right, y}, {right + length, y}}, width, ink});
-        if (numbered) Print_Figure(printing, row, unit, y);
-    }
-}
-
-void Print_Position(Printing& printing, const Editor_Row& row, const Position& position, double y) {
+void Print_Switch_Row(Printing& printing, const Editor_Row& row) {
     const bool right = Labels_On_Right(row);
-    const double edge = right ? row.left + Thumb_Size + Label_Gap : row.left - Label_Gap;
-    if (position.symbol == Symbol::None) {
-        const bool long_name = std::string_view(position.name).size() > 3;
-        printing.texts.push_back({position.name,
-                                  {edge, y + Digit_Half_Height},
-                                  right ? Align::Left : Align::Right,
-                                  long_name ? Scale_Size : Position_Size,
-                                  Ink::Print});
-        return;
-    }
-    const double middle = right ? edge + Symbol_Width / 2 : edge - Symbol_Width / 2;
-    Print_Symbol(printing, position.symbol, {middle, y});
-    if (*position.mark != '\0') {
-        printing.texts.push_back({position.mark,
-                                  {middle - Symbol_Width / 2 - 1, y + Digit_Half_Height},
-                                  Align::Right,
-                                  Scale_Size,
-                                  Ink::Print});
-    }
-}
-
-void Print_Switch(Printing& printing, const Editor_Row& row) {
-    // Above the thumb and the names beside it.
-    constexpr double Half_A_Name = 7;
-    Print_Caption(printing, row, Middle_X(row) + (Labels_On_Right(row) ? Half_A_Name : -Half_A_Name));
-    Print_Rail(printing, row);
+    Print_Switch_Caption(printing, Caption_Of(row).caption, row.left, row.top_row, right);
+    Print_Rail(printing, {row.left, row.top_row, row.bottom_row});
     for (int position = 0; position < Positions(row.type); ++position) {
         const auto index = static_cast<std::size_t>(position);
-        Print_Position(printing, row, (*Caption_Of(row).positions)[index], Switch_Middle(row, position));
+        Print_Position(printing, (*Caption_Of(row).positions)[index], row.left,
+                       Switch_Middle(row, position), right);
     }
 }
 
-// The knob's face is round (14, 12) of its body; the dot's angle is degrees a unit from straight up.
-Print_Point Round_Knob(const Editor_Row& row, double radius, double degrees) {
-    const double angle = degrees * std::numbers::pi / 180;
-    return {row.left + 14 + radius * std::sin(angle), row.top_row + 12 - radius * std::cos(angle)};
-}
-
-// One mark a semitone, or one every ten units of fine tune; the ends and the middle are numbered.
+// One mark a semitone, or one every ten units of fine tune; the ends are numbered.
 void Print_Knob(Printing& printing, const Editor_Row& row) {
     const bool fine = row.type == Control_Type::Fine_Knob;
     const int end = fine ? 50 : 12;
-    const int step = fine ? 10 : 1;
-    const double degrees = fine ? Degrees_A_Fine_Unit : Degrees_A_Semitone;
-    for (int unit = -end; unit <= end; unit += step) {
-        const bool numbered = unit == 0 || unit == -end || unit == end;
-        printing.lines.push_back(
-            {{Round_Knob(row, 13.5, unit * degrees), Round_Knob(row, numbered ? 17.5 : 16, unit * degrees)},
-             1,
-             numbered ? Ink::Print : Ink::Faint});
-    }
+    Print_Knob_Marks(printing, {row.left + Knob_Face_X, row.top_row + Knob_Face_Y}, end, fine ? 10 : 1,
+                     fine ? Degrees_A_Fine_Unit : Degrees_A_Semitone);
     printing.texts.push_back({Caption_Of(row).caption,
-                              {row.left + 14.0, row.top_row - 11.0},
+                              {row.left + Knob_Face_X, row.top_row - 11.0},
                               Align::Centre,
                               Caption_Size,
                               Ink::Print});
@@ -266,11 +153,6 @@ void Print_Knob(Printing& printing, const Editor_Row& row) {
         {"-" + std::to_string(end), {row.left + 1.0, base_line}, Align::Right, Scale_Size, Ink::Print});
     printing.texts.push_back(
         {"+" + std::to_string(end), {row.left + 28.0, base_line}, Align::Left, Scale_Size, Ink::Print});
-}
-
-void Print_Group(Printing& printing, const Group_Row& group) {
-    printing.lines.push_back({group.outline, 1, Ink::Frame, true});
-    printing.texts.push_back({group.heading, group.heading_at, Align::Left, Heading_Size, Ink::Heading});
 }
 
 }  // namespace
@@ -295,14 +177,14 @@ std::string Editor_Position_Name(const Editor_Row& row, int position) {
 
 Printing Editor_Printing() {
     Printing printing;
-    for (const Group_Row& group : Groups) Print_Group(printing, group);
+    for (const Panel_Group& group : Groups) Print_Group(printing, group);
     for (const Editor_Row& row : Editor_Table) {
         if (row.type == Control_Type::Slider) {
-            Print_Slider(printing, row);
+            Print_Slider_Row(printing, row);
         } else if (Is_Knob(row.type)) {
             Print_Knob(printing, row);
         } else {
-            Print_Switch(printing, row);
+            Print_Switch_Row(printing, row);
         }
     }
     printing.texts.push_back({"TONE NAME", {165.5, 286}, Align::Centre, Caption_Size, Ink::Print});

@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <string_view>
 
+#include "panels/measures.h"
+
 enum class Control_Type { Slider, Four_Way, Three_Way, Two_Way, Tune_Knob, Fine_Knob };
 
 // For a slider top row is the thumb's top at value 127 and bottom row at 0; for a switch, at the highest
@@ -21,15 +23,10 @@ struct Editor_Row {
     const char* spoken_name;
 };
 
-inline constexpr int Switch_Pitch = 10;   // pixels from one position of a switch to the next
-inline constexpr int Slider_Travel = 80;  // pixels from value 0 to value 127
-inline constexpr int Thumb_Size = 16;
 inline constexpr int Dot_Centre_Left = 12;  // of a knob's dot, on the body
 inline constexpr int Dot_Centre_Top = 10;
 inline constexpr double Degrees_A_Semitone = 12;
 inline constexpr double Degrees_A_Fine_Unit = 3;
-inline constexpr int Editor_Width = 528;
-inline constexpr int Editor_Height = 456;
 
 namespace editor_table {
 

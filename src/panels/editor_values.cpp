@@ -13,13 +13,9 @@
 namespace {
 
 constexpr double Slider_Page = 16;
-constexpr int Full_Scale = 99;  // the instrument's own display shows 0 to 99
 
 // The three-position switches; their highest position starts at 64 and is as far as keys go.
 constexpr double Three_Way_Ceiling = 64;
-
-// A switch that is dragged sends on a jump only: more than this away from the drag event before.
-constexpr int Switch_Send_Difference = 4;
 
 bool Is_Three_Way(std::size_t parameter) {
     return parameter == Parameter_Chorus_Mode || parameter == Parameter_LFO_Waveform;
@@ -35,9 +31,8 @@ bool Is_Slider(std::size_t parameter) {
     });
 }
 
-// The control that has the focus; without one there is no thumb to move.
 void Set_Active_Top(int top) {
-    if (Editor.active_control != nullptr) Editor.active_control->top = top;
+    Window_Set_Active_Top(Editor, top);
 }
 
 // Which of four rows a byte belongs to, counted from the lowest; 4 above 127.
@@ -48,7 +43,7 @@ int Band(std::uint8_t value) {
 int Switch_Top(std::size_t parameter, int bottom_row) {
     const int band = Band(Tone_Byte(parameter));
     // What no band holds shows at the window's upper edge, off the rail, where it can be seen to be wrong.
-    return band < 4 ? bottom_row - band * Switch_Pitch : 0;
+    return band < 4 ? Band_Top(bottom_row, Tone_Byte(parameter)) : 0;
 }
 
 int Bottom_Row(std::size_t parameter) {
@@ -66,7 +61,7 @@ std::uint8_t Byte_Of(double value) {
 
 bool Editor_Value_Text(std::size_t parameter, std::uint8_t value, std::string& text) {
     if (Is_Slider(parameter)) {
-        text = std::to_string(value * Full_Scale / 127);
+        text = std::to_string(Slider_Shown(value));
     } else if (Is_Tune(parameter)) {
         text = std::to_string(Panel_Tune_From_Byte(value));
     } else if (parameter == Parameter_DCO2_FTune) {
@@ -102,7 +97,7 @@ void Editor_Slider_Drag(int top_row, int bottom_row, std::size_t parameter, doub
 }
 
 void Editor_Slider_Place(int /*top_row*/, int bottom_row, std::size_t parameter) {
-    Set_Active_Top(bottom_row - Tone_Byte(parameter) * Slider_Travel / 127);
+    Set_Active_Top(Slider_Top(bottom_row, Tone_Byte(parameter)));
 }
 
 void Editor_Switch_Key(int top_row, int bottom_row, std::size_t parameter, int key) {
@@ -121,13 +116,8 @@ void Editor_Switch_Drag(int top_row, int bottom_row, std::size_t parameter, doub
     Tone_Byte(parameter) = Byte_Of(Panel_Scratch_Real);
     Editor_Switch_Place(top_row, bottom_row, parameter);
     // A slow drag moves the thumb without a message. The instrument hears the next jump, or the next key.
-    const std::int16_t value = To_Int16(Panel_Scratch_Real);
-    const auto this_parameter = static_cast<std::int16_t>(parameter);
-    if (std::abs(value - Panel_Last_Value) > Switch_Send_Difference && Panel_Last_Param == this_parameter) {
-        Editor_Send_Param(parameter);
-    }
-    Panel_Last_Value = value;
-    Panel_Last_Param = this_parameter;
+    const auto movement = Panel_Switch_Movement(parameter, To_Int16(Panel_Scratch_Real));
+    if (movement && std::abs(*movement) > Switch_Send_Difference) Editor_Send_Param(parameter);
     Tone_Saved = Flag_16::False;
 }
 
@@ -151,5 +141,5 @@ int Panel_Switch_Top_Lower(std::size_t parameter) {
 }
 
 int Panel_Slider_Top(std::size_t parameter) {
-    return Bottom_Row(parameter) - Tone_Byte(parameter) * Slider_Travel / 127;
+    return Slider_Top(Bottom_Row(parameter), Tone_Byte(parameter));
 }

@@ -18,6 +18,10 @@ constexpr int Other_Key = 255;
 // clang-format off
 constexpr Key_Row Keys[] = {
 //   toolkit           classic         on the keypad
+    {Qt::Key_Tab,      Key_Tab,        Key_Tab},
+    {Qt::Key_Backtab,  Key_Tab,        Key_Tab},
+    {Qt::Key_Pause,    Key_Pause,      Key_Pause},
+    {Qt::Key_Escape,   Key_Escape,     Key_Escape},
     {Qt::Key_PageUp,   Key_Page_Up,    Key_Page_Up},
     {Qt::Key_PageDown, Key_Page_Down,  Key_Page_Down},
     {Qt::Key_End,      Key_End,        Key_End},
@@ -33,6 +37,12 @@ constexpr Key_Row Keys[] = {
 // clang-format on
 
 }  // namespace
+
+int Classic_Shift_State(const QKeyEvent& event) {
+    const Qt::KeyboardModifiers held = event.modifiers();
+    return (held & Qt::ShiftModifier ? 1 : 0) + (held & Qt::ControlModifier ? 2 : 0) +
+           (held & Qt::AltModifier ? 4 : 0);
+}
 
 int Classic_Key_Code(const QKeyEvent& event) {
     const bool keypad = (event.modifiers() & Qt::KeypadModifier) != 0;

@@ -19,6 +19,12 @@ void Play_First_Column() {
 
 }  // namespace
 
+Control Keys_Pic_Control(Window& window) {
+    Control keys = Plain_Control(window, "Keys_Pic", "Keyboard", true);
+    keys.help = Keys_Pic_Help;
+    return keys;
+}
+
 void Keys_Pic_MouseDown(Control& keys, Mouse_Button button) {
     const bool column_filled = std::any_of(Seq_Notes.begin(), Seq_Notes.begin() + Seq_Rows,
                                            [](std::int16_t velocity) { return velocity != 0; });

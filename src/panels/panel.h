@@ -1,6 +1,7 @@
 // A panel as its toolkit window sees it: the window's record, its controls, and where events go.
 #pragma once
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,18 @@ struct Panel_Events {
     void (*clicked)(Control&);  // pressed and released inside
     void (*activated)();
     void (*deactivated)();
+    // As pointer_moved, with the column: for what is moved sideways.
+    void (*pointer_moved_across)(Control&, double column) = nullptr;
+};
+
+// A picture that comes up over a panel and is drawn from line shapes; their ends are pixels in it.
+struct Line_Shape {
+    float x1, y1, x2, y2;
+};
+struct Panel_Graph {
+    Control& picture;  // where it stands, and whether it is visible
+    std::span<const Line_Shape> axes;
+    std::span<const Line_Shape> curve;
 };
 
 struct Panel {
@@ -27,4 +40,5 @@ struct Panel {
     std::vector<Control*> controls;  // those that take the focus stand in its order
     Panel_Events events;
     std::string (*spoken_value)(const Control&);  // what a screen reader says behind the name; ANSI
+    const Panel_Graph* graph = nullptr;
 };

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "panels/control_widget.h"
+#include "panels/graph_widget.h"
 #include "platform/gate.h"
 
 Panel_Window::Panel_Window(const Panel& panel, Printing printing, QWidget* parent)
@@ -21,6 +22,7 @@ Panel_Window::Panel_Window(const Panel& panel, Printing printing, QWidget* paren
         if (before != nullptr) setTabOrder(before, widget);
         before = widget;
     }
+    if (panel.graph != nullptr) graph_ = new Graph_Widget(*panel.graph, this);
 }
 
 Control_Widget* Panel_Window::Widget_Of(const Control* control) const {
@@ -32,7 +34,6 @@ Control_Widget* Panel_Window::Widget_Of(const Control* control) const {
 
 void Panel_Window::Show_Changes() {
     const Window& window = *panel_.window;
-    for (Control_Widget* widget : widgets_) widget->Show_Changes();
     move(window.left, window.top);
     if (isEnabled() != window.enabled) setEnabled(window.enabled);
     if (isHidden() == window.visible) setVisible(window.visible);
@@ -40,14 +41,26 @@ void Panel_Window::Show_Changes() {
         times_raised_ = window.times_raised;
         raise();
     }
-    Give_Focus_Back();
+    Show_Controls();
 }
 
-// A window that was locked or hidden has lost the focus; it goes back to the control that had it.
-void Panel_Window::Give_Focus_Back() {
-    if (!isVisible() || !isEnabled() || this->window()->focusWidget() != nullptr) return;
-    Control_Widget* widget = Widget_Of(panel_.window->active_control);
-    if (widget != nullptr) widget->setFocus(Qt::OtherFocusReason);
+void Panel_Window::Show_Controls() {
+    for (Control_Widget* widget : widgets_) widget->Show_Changes();
+    if (graph_ != nullptr) graph_->Show_Changes();
+    Show_Focus();
+}
+
+// A rule that sends the focus elsewhere writes the record. And a window that was locked or hidden has lost
+// the focus; it goes back to the control that had it.
+void Panel_Window::Show_Focus() {
+    const Control* active = panel_.window->active_control;
+    if (active == nullptr) agreed_focus_ = nullptr;
+    Control_Widget* widget = Widget_Of(active);
+    if (widget == nullptr || !isEnabled() || !isVisibleTo(window())) return;
+    const bool lost = isVisible() && window()->focusWidget() == nullptr;
+    if (active == agreed_focus_ && !lost) return;
+    agreed_focus_ = active;
+    widget->setFocus(Qt::OtherFocusReason);
 }
 
 void Panel_Window::paintEvent(QPaintEvent*) {
@@ -55,7 +68,11 @@ void Panel_Window::paintEvent(QPaintEvent*) {
 }
 
 bool Panel_Window::event(QEvent* event) {
-    if (event->type() == QEvent::WindowActivate) Guarded_Event([this] { panel_.events.activated(); });
-    if (event->type() == QEvent::WindowDeactivate) Guarded_Event([this] { panel_.events.deactivated(); });
+    // The frame tells all its panels; only the one on show is meant.
+    if (panel_.window->visible) {
+        if (event->type() == QEvent::WindowActivate) Guarded_Event([this] { panel_.events.activated(); });
+        if (event->type() == QEvent::WindowDeactivate)
+            Guarded_Event([this] { panel_.events.deactivated(); });
+    }
     return QWidget::event(event);
 }

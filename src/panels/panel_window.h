@@ -9,13 +9,16 @@
 #include "panels/pictures_qt.h"
 
 class Control_Widget;
+class Graph_Widget;
 
 class Panel_Window : public QWidget {
   public:
     Panel_Window(const Panel& panel, Printing printing, QWidget* parent);
 
-    // Brings widgets up to the records.
+    // Brings the panel up to its window's record, and its controls up to theirs.
     void Show_Changes();
+    // The controls and the focus alone: for a panel that fills a window of its own.
+    void Show_Controls();
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -23,10 +26,12 @@ class Panel_Window : public QWidget {
 
   private:
     Control_Widget* Widget_Of(const Control* control) const;
-    void Give_Focus_Back();
+    void Show_Focus();
 
     const Panel& panel_;
     Printed_Ground ground_;
     std::vector<Control_Widget*> widgets_;
+    const Control* agreed_focus_ = nullptr;  // the active control as record and screen last agreed on it
+    Graph_Widget* graph_ = nullptr;
     int times_raised_ = 0;
 };

@@ -15,7 +15,7 @@ constexpr std::array Roles = {
     Picture_Role{Picture_Store::Buttons,          "buttons",           6,    7,    16,    16},
     Picture_Role{Picture_Store::Buttons,          "buttons",           8,    8,    28,    26},
     Picture_Role{Picture_Store::Buttons,          "buttons",           9,   10,    43,    22},
-    Picture_Role{Picture_Store::LED,              "led",               0,    3,    14,    14},
+    Picture_Role{Picture_Store::LED,              "led",               0,    5,    14,    14},
     Picture_Role{Picture_Store::Button_Up3D,      "button_up3d",       0,    0,    22,    22},
     Picture_Role{Picture_Store::Button_Dn3D,      "button_dn3d",       0,    0,    22,    22},
     Picture_Role{Picture_Store::Start_Enabled,    "start_enabled",     0,    0,    14,    14},
@@ -32,9 +32,14 @@ constexpr std::array Roles = {
     Picture_Role{Picture_Store::Dlg2_Dn,          "dlg2_dn",           0,    0,    65,    34},
     Picture_Role{Picture_Store::Dlg2_Ok,          "dlg2_ok",           0,    0,    51,    20},
     Picture_Role{Picture_Store::Dlg2_Cancel,      "dlg2_cancel",       0,    0,    51,    20},
+    Picture_Role{Picture_Store::Tone_A_Pic,       "tone_a_pic",        0,    0,    14,    14},
+    Picture_Role{Picture_Store::Tone_B_Pic,       "tone_b_pic",        0,    0,    14,    14},
     Picture_Role{Picture_Store::Back_Pic,         "back_pic",          0,    0,    64,    64},
     Picture_Role{Picture_Store::Pic_Tonebench,    "pic_tonebench",     0,    0,   110,    50},
     Picture_Role{Picture_Store::Pic_Sign,         "pic_sign",          0,    0,    79,    14},
+    Picture_Role{Picture_Store::FD_Symbols,       "fd_symbols",        0,    2,    14,    14},
+    Picture_Role{Picture_Store::FD_Icons,         "fd_icons",          0,    2,    16,    14},
+    Picture_Role{Picture_Store::FD_SEQ_Pics,      "fd_seq_pics",       0,    3,     7,     7},
 };
 // clang-format on
 

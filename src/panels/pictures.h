@@ -10,7 +10,7 @@
 enum class Picture_Store {
     None,
     Buttons,  // an even item is resting, the next odd one its second blink picture
-    LED,      // 0 off, 1 on, further lamps
+    LED,      // 0 off, 1 on, 3 of a check box on, 5 of one that is disabled, further lamps
     Button_Up3D,
     Button_Dn3D,
     Start_Enabled,
@@ -27,9 +27,14 @@ enum class Picture_Store {
     Dlg2_Dn,
     Dlg2_Ok,
     Dlg2_Cancel,
+    Tone_A_Pic,  // the symbols on the two buttons that choose a tone of the MKS-70
+    Tone_B_Pic,
     Back_Pic,
     Pic_Tonebench,
     Pic_Sign,
+    FD_Symbols,   // on the file window's small buttons: 0 up, 1 new folder, 2 delete
+    FD_Icons,     // in its lists: 0 folder, 1 open folder, 2 drive
+    FD_SEQ_Pics,  // cells of its sequence picture: 0 empty, 2 loud, 3 soft
 };
 
 // Items of Buttons.

@@ -45,5 +45,25 @@ struct Printing {
 // Symbols at the positions of switches, drawn into a box of this size round their middle.
 inline constexpr double Symbol_Width = 12;
 inline constexpr double Symbol_Height = 6;
-enum class Symbol { None, Noise, Square, Pulse, Sawtooth, Triangle, Random, Envelope, Envelope_Inverted };
-void Print_Symbol(Printing& printing, Symbol symbol, Print_Point middle);
+enum class Symbol {
+    None,
+    Noise,
+    Square,
+    Pulse,
+    Sawtooth,
+    Triangle,
+    Random,
+    Envelope,
+    Envelope_Inverted,
+    Gate,
+    Pulse_Modulated,  // a pulse whose width changes
+    Saw_Half,         // sawtooth cut off for half of its cycle
+    Saw_Modulated,    // for a part that changes
+    Saw_Twice,        // twice in a cycle
+    Saw_Thrice,
+    Sub_Square,  // an octave below: two cycles; Square and Pulse are the waves of two octaves below
+    Sub_Pulse,
+    Sub_Twice,  // its upper half cut off twice
+    Sub_Thrice,
+};
+void Print_Symbol(Printing& printing, Symbol symbol, Print_Point middle, double width = Symbol_Width);

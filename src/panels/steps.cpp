@@ -5,12 +5,6 @@
 
 #include "platform/numbers.h"
 
-namespace {
-
-constexpr double Switch_Band = 32;
-
-}  // namespace
-
 void Panel_Inc(double& value) {
     value += 1;
 }
@@ -51,17 +45,17 @@ std::optional<double> Slider_Step(double value, int key, double page) {
     return Clamped(value, 0, Highest_Value);
 }
 
-std::optional<double> Switch_Step(double value, int key, double ceiling) {
+std::optional<double> Switch_Step(double value, int key, double ceiling, double step) {
     switch (key) {
         case Key_Up:
         case Key_Keypad_Plus:
         case Key_Page_Up:
-            value += Switch_Band;
+            value += step;
             break;
         case Key_Down:
         case Key_Keypad_Minus:
         case Key_Page_Down:
-            value = value < Switch_Band ? 0 : value - Switch_Band;
+            value = value < step ? 0 : value - step;
             break;
         case Key_Home:
             value = ceiling;

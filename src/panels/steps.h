@@ -5,6 +5,9 @@
 #include <optional>
 
 enum Key_Code : int {
+    Key_Tab = 9,
+    Key_Pause = 19,
+    Key_Escape = 27,
     Key_Page_Up = 33,
     Key_Page_Down = 34,
     Key_End = 35,
@@ -21,6 +24,9 @@ enum Key_Code : int {
 
 inline constexpr double Highest_Value = 127;
 
+// A switch that is dragged sends on a jump only: more than this away from the drag event before.
+inline constexpr int Switch_Send_Difference = 4;
+
 // Adds 1; subtracts 1 unless the value is exactly 0. Neither clamps otherwise, and Panel_Dec is one
 // procedure for all kinds: that is why no key steps a tune knob below 0 by one.
 void Panel_Inc(double& value);
@@ -30,9 +36,12 @@ void Panel_Dec(double& value);
 // End to 0; within 0 to 127. Nothing for any other key.
 std::optional<double> Slider_Step(double value, int key, double page);
 
-// Switch of positions: Up, keypad + and Page Up a step of 32 up, `ceiling` at most; Down, keypad - and Page
-// Down a step down, or 0 from 31 and less; Home to the ceiling, End to 0. Nothing for any other key.
-std::optional<double> Switch_Step(double value, int key, double ceiling = Highest_Value);
+// Switch of positions: Up, keypad + and Page Up a step up, `ceiling` at most; Down, keypad - and Page Down
+// a step down, or 0 from less than a step; Home to the ceiling, End to 0. Nothing for any other key. A step
+// is a band of bytes, unless the value is the position itself.
+inline constexpr double Switch_Band = 32;
+std::optional<double> Switch_Step(double value, int key, double ceiling = Highest_Value,
+                                  double step = Switch_Band);
 
 // Tune knob, in semitones within -12 to 12. A key without a meaning leaves the value.
 double Tune_Step(double semitones, int key);
@@ -48,5 +57,10 @@ bool Toggles(int key);
 // A drag event at `row`, relative to the thumb at that moment: one pixel is one unit.
 double Slider_Dragged(double value, double row);  // the fraction is cut
 double Switch_Dragged(double value, double row);  // rounded, halves to even
+
+// How a slider's value stands in a display: 0 to 99, as on the instrument's own.
+inline constexpr int Slider_Shown(int value) {
+    return value * 99 / 127;
+}
 
 double Clamped(double value, double lowest, double highest);

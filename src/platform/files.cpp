@@ -6,8 +6,6 @@
 
 #include <cerrno>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <system_error>
 
 #include "platform/text.h"
@@ -45,8 +43,8 @@ std::string Entry_In_Other_Case(const std::string& folder, const std::string& na
 
 // Opens a plain file; -1 with errno set when there is none. Without O_NONBLOCK a pipe would wait here for
 // somebody at its other end.
-int Open_For_Reading(const std::string& path) {
-    const int descriptor = ::open(Path_Found(path).c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+int Open_Plain_File(const std::string& path) {
+    const int descriptor = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (descriptor < 0) return -1;
     struct stat facts = {};
     if (::fstat(descriptor, &facts) == 0 && S_ISREG(facts.st_mode)) return descriptor;
@@ -54,6 +52,10 @@ int Open_For_Reading(const std::string& path) {
     ::close(descriptor);
     errno = reason;
     return -1;
+}
+
+int Open_For_Reading(const std::string& path) {
+    return Open_Plain_File(Path_Found(path));
 }
 
 }  // namespace
@@ -86,12 +88,27 @@ bool File_Exists(std::string path) {
 }
 
 std::optional<std::string> File_Read_Whole(const std::string& path) {
-    std::error_code error;
-    // A folder opens like a file here, and reading it fails only later.
-    if (!std::filesystem::is_regular_file(path, error)) return std::nullopt;
-    std::ifstream file(path, std::ios::binary);
-    if (!file) return std::nullopt;
-    return std::string(std::istreambuf_iterator<char>(file), {});
+    const int descriptor = Open_Plain_File(path);
+    if (descriptor < 0) return std::nullopt;
+    std::optional<std::string> contents = std::string();
+    std::array<char, 65536> block;
+    for (;;) {
+        const ssize_t count = ::read(descriptor, block.data(), block.size());
+        if (count < 0 && errno == EINTR) continue;
+        // Half of a file is worse than none: it might be written back.
+        if (count < 0) contents.reset();
+        if (count <= 0) break;
+        contents->append(block.data(), static_cast<std::size_t>(count));
+    }
+    ::close(descriptor);
+    return contents;
+}
+
+bool File_Is_Read_Only(const std::string& path) {
+    constexpr mode_t Writing = 0222;
+    struct stat facts = {};
+    if (::stat(path.c_str(), &facts) != 0) return false;
+    return (facts.st_mode & Writing) == 0 || ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0;
 }
 
 bool File_Replace(const std::string& path, const std::string& contents) {

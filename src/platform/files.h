@@ -26,8 +26,12 @@ bool File_Exists(std::string path);
 // The error number (errno) of the last File_Exists; 0 when it found the file.
 extern int File_Last_Error;
 
-// The whole file; nothing when it cannot be read.
+// The whole file under its exact name; nothing when it is no plain file or cannot be read to its end.
 std::optional<std::string> File_Read_Whole(const std::string& path);
+
+// Whether the file is there and must not be written: nobody may (a mark that counts for the system's
+// administrator too), or this user may not. To replace a file asks for rights to its folder only.
+bool File_Is_Read_Only(const std::string& path);
 
 // Replaces the file in one step: a crash or a full disk leaves the old file or the new one, never half
 // of one. False when it failed; the old file is then as it was.

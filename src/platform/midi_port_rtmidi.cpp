@@ -15,6 +15,13 @@ using Clock = std::chrono::steady_clock;
 
 constexpr auto Byte_Time = std::chrono::microseconds(320);  // ten bits at 31250 baud
 
+// What the buffers on the way to the instrument hold at most. Whoever sends faster than the wire plays
+// fills them; what does not fit is lost, and closing need not wait for it.
+constexpr auto Longest_Backlog = Byte_Time * 4096;
+
+// Kept free of long messages, so that a flood of them leaves room for notes.
+constexpr std::size_t Room_For_Short = 64;
+
 // A service that takes nothing for so long stands still.
 constexpr auto Standstill_Time = std::chrono::seconds(1);
 
@@ -64,7 +71,8 @@ std::size_t Bytes_On_Wire(Clock::time_point now) {
     return static_cast<std::size_t>((Out_Port.busy_until - now) / Byte_Time);
 }
 
-Port_Result Send(const unsigned char* bytes, std::size_t size) {
+// Leaves `spare` bytes of room, where the port has so many beside the message.
+Port_Result Send(const unsigned char* bytes, std::size_t size, std::size_t spare) {
     if (!Is_There()) return Port_Gone;
     Port_Watch& watch = *Out_Port.opened_with->watch;
     if (size > watch.Longest_Message()) {
@@ -73,13 +81,15 @@ Port_Result Send(const unsigned char* bytes, std::size_t size) {
                                 std::to_string(watch.Longest_Message()) + " bytes arrive whole.");
     }
     const Clock::time_point now = Clock::now();
-    if (!watch.Has_Room(size, Bytes_On_Wire(now))) {
+    const std::size_t kept_free = std::min(spare, watch.Longest_Message() - size);
+    if (!watch.Has_Room(size + kept_free, Bytes_On_Wire(now))) {
         return Port_Failed_With("The MIDI port does not keep up: its buffer is full.");
     }
     const Port_Result result = Asked([&] { Out_Port.opened_with->out->sendMessage(bytes, size); });
     if (result != Port_Ok) return result;
     watch.Note_Sent(size);
-    Out_Port.busy_until = std::max(now, Out_Port.busy_until) + Byte_Time * size;
+    Out_Port.busy_until = std::max(now, Out_Port.busy_until) + Byte_Time * static_cast<long>(size);
+    Out_Port.busy_until = std::min(Out_Port.busy_until, now + Longest_Backlog);
     return Port_Ok;
 }
 
@@ -147,7 +157,7 @@ Port_Result Port_Out_Short(Port_Handle handle, std::uint32_t word) {
                                                 static_cast<unsigned char>(word >> 16U & 0xFFU)};
     const std::size_t length = Short_Length(bytes[0]);
     if (length == 0) return Port_Failed_With("A short MIDI message cannot begin with this byte.");
-    return Send(bytes.data(), length);
+    return Send(bytes.data(), length, 0);
 }
 
 Port_Result Port_Out_Ready(Port_Handle handle) {
@@ -158,7 +168,7 @@ Port_Result Port_Out_Ready(Port_Handle handle) {
 Port_Result Port_Out_Long(Port_Handle handle, std::string_view bytes) {
     if (!Is_Open(handle)) return Port_Bad_Handle;
     if (bytes.empty()) return Port_Ok;
-    return Send(reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size());
+    return Send(reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size(), Room_For_Short);
 }
 
 std::string Port_Error_Text(Port_Result result) {

@@ -98,6 +98,7 @@ std::string Profile_Value(std::string_view text, std::string_view section, std::
 
 std::string Profile_With_Value(std::string_view text, std::string_view section, std::string_view key,
                                std::string_view value) {
+    value = value.substr(0, value.find_first_of("\r\n"));
     const Place place = Find(text, section, key);
     if (place.key_line) {
         const Line& line = *place.key_line;

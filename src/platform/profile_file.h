@@ -18,6 +18,7 @@ std::string Profile_Value(std::string_view text, std::string_view section, std::
                           std::string_view missing);
 
 // The text with that value in it. Section and key are added where they are missing, a key at the end of
-// its section. All other lines stay as they are, line ends included.
+// its section. All other lines stay as they are, line ends included. A value is one line: what stands
+// behind a line end in it (the name of a file may hold one) is left out.
 std::string Profile_With_Value(std::string_view text, std::string_view section, std::string_view key,
                                std::string_view value);

@@ -168,7 +168,10 @@ std::array<Control, Seq_Rows> Made_Keys() {
         "Seq_Keys_7", "Seq_Keys_8", "Seq_Keys_9", "Seq_Keys_10", "Seq_Keys_11", "Seq_Keys_12",
     };
     std::array<Control, Seq_Rows> keys;
-    for (std::size_t index = 0; index < keys.size(); ++index) keys[index] = Made(Names[index], "Key", true);
+    for (std::size_t index = 0; index < keys.size(); ++index) {
+        keys[index] = Made(Names[index], "Key", true);
+        keys[index].help = Seq_Keys_Help;
+    }
     return keys;
 }
 

@@ -37,10 +37,7 @@ Sequencer_Window::Sequencer_Window(QMainWindow* parent)
         controls_.push_back(new Control_Widget(*control, Seq_Panel, below));
     }
     // The keys are for the pointer: thirteen stops on the way to the next control would be a nuisance.
-    for (std::size_t key = 0; key < Seq_Keys.size(); ++key) {
-        controls_[key]->setFocusPolicy(Qt::NoFocus);
-        controls_[key]->setToolTip(Seq_Keys_Help);
-    }
+    for (std::size_t key = 0; key < Seq_Keys.size(); ++key) controls_[key]->setFocusPolicy(Qt::NoFocus);
     key_names_ = new Seq_Key_Names(this);
     for (std::size_t index = 0; index < Seq_Directions.size(); ++index) {
         auto* direction = new Seq_Direction_Widget(Seq_Directions[index], this);

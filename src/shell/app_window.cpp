@@ -9,9 +9,17 @@
 
 #include "desk/menus.h"
 #include "desk/windows.h"
+#include "filedlg/file_dlg_window.h"
+#include "filedlg/input_dlg_window.h"
+#include "help/help_window.h"
+#include "oscwin/oscillator_window.h"
 #include "panels/editor.h"
 #include "panels/editor_printing.h"
+#include "panels/juno_panel.h"
+#include "panels/juno_printing.h"
+#include "panels/mks_patch_window.h"
 #include "panels/panel_window.h"
+#include "panels/patch_window.h"
 #include "panels/pictures_qt.h"
 #include "platform/gate.h"
 #include "seqwin/seqwin_window.h"
@@ -33,6 +41,14 @@ class Ground : public QWidget {
     }
     void mousePressEvent(QMouseEvent*) override { Guarded_Event(Main_Background_Click); }
 };
+
+// As the toolkit writes a caption: of several "&" only the first marks a letter, the others are part of a
+// path.
+QString Toolkit_Caption(const std::string& caption) {
+    const QString text = QString::fromStdString(caption).trimmed();
+    const qsizetype behind_mark = text.indexOf('&') + 1;
+    return text.left(behind_mark) + text.mid(behind_mark).replace("&", "&&");
+}
 
 // An entry is of use when something happens on it or below it.
 bool Has_Function(std::size_t index) {
@@ -70,17 +86,37 @@ struct Child_Row {
     Child_Window* (*make)(QMainWindow* parent);
 };
 
+struct Panel_Row {
+    const Panel& panel;
+    Printing (*printing)();
+};
+
+// The panels in the frame's client area; the profile shows one of them.
+constexpr Panel_Row Panels[] = {
+    {Editor_Panel, Editor_Printing},
+    {Juno_Panel, Juno_Printing},
+};
+
 // The windows over the main one.
+// clang-format off
 constexpr Child_Row Children[] = {
     {MIDI_Setup, Make<Setup_Window>},
     {TName, Make<TName_Window>},
+    {Patch, Make<Patch_Window>},
+    {Patch_MKS70, Make<MKS_Patch_Window>},
     {Sequencer, Make<Sequencer_Window>},
+    {Oscillator, Make<Oscillator_Window>},
+    {File_Dlg, Make<File_Dlg_Window>},
+    {Input_Dlg, Make<Input_Dlg_Window>},
+    {Help, Make<Help_Window>},
 };
+// clang-format on
 
 }  // namespace
 
 App_Window::App_Window()
     : ground_(new Ground(this)),
+      panels_(std::size(Panels)),
       children_(std::size(Children)),
       list_(new QActionGroup(this)),
       agreed_(Wanted_Place()) {
@@ -125,7 +161,7 @@ void App_Window::Show_Menus() {
         const Menu_Entry& entry = Menu_Tree[index];
         QAction& action = *entries_[index];
         // The toolkit draws a line for a separator that has no text, and the text of one that has.
-        if (!Is_Separator(entry)) action.setText(QString::fromStdString(entry.caption).trimmed());
+        if (!Is_Separator(entry)) action.setText(Toolkit_Caption(entry.caption));
         action.setVisible(entry.visible && (Has_Function(index) || Is_Separator(entry)));
         action.setEnabled(entry.enabled);
         if (entry.checked) action.setCheckable(true);
@@ -153,10 +189,12 @@ void App_Window::Show_Window_List() {
 }
 
 void App_Window::Show_Panels() {
-    if (Editor.loaded && editor_ == nullptr) {
-        editor_ = new Panel_Window(Editor_Panel, Editor_Printing(), ground_);
+    for (std::size_t index = 0; index < std::size(Panels); ++index) {
+        const auto& [panel, printing] = Panels[index];
+        Panel_Window*& shown = panels_[index];
+        if (panel.window->loaded && shown == nullptr) shown = new Panel_Window(panel, printing(), ground_);
+        if (shown != nullptr) shown->Show_Changes();
     }
-    if (editor_ != nullptr) editor_->Show_Changes();
 }
 
 // Behind the frame, as not every desktop lets a window come to the front later.

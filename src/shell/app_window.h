@@ -44,7 +44,7 @@ class App_Window : public QMainWindow {
     static Place Wanted_Place();
 
     QWidget* ground_;
-    Panel_Window* editor_ = nullptr;
+    std::vector<Panel_Window*> panels_;    // one for each row of Panels, once it is loaded
     std::vector<Child_Window*> children_;  // one for each row of Children, null until it is needed
     std::vector<QAction*> entries_;        // one for each row of Menu_Tree
     std::vector<std::string> listed_;      // the windows that the list shows, by their captions

@@ -4,9 +4,11 @@
 #include "desk/menus.h"
 #include "desk/timers.h"
 #include "desk/windows.h"
+#include "help/help.h"
 #include "midi/out.h"
 #include "panels/editor.h"
 #include "panels/push_buttons.h"
+#include "platform/message_box.h"
 #include "sequencer/sequence.h"
 #include "shell/frame.h"
 #include "synth/messages.h"
@@ -46,9 +48,23 @@ void Tone_Send_Chosen() {
     Tone_Send();
 }
 
+void Tone_Patch_Chosen() {
+    if (Synthesizer == "JX-8P") {
+        Window_Load(Patch);
+        Window_Place(Patch, Patch_Left, Patch_Top);
+        Window_Show(Patch);
+    } else if (Synthesizer == "MKS-70") {
+        Message_Box("Sorry, patch settings not available yet.", Buttons_Set::Ok, Icon::Exclamation);
+    }
+}
+
 void Commands_Install() {
     Menu(Menu_File_Exit).chosen = [] { Main_Close(); };
     Menu(Menu_MIDI_CloseOutput).chosen = MIDI_CloseOutput_Chosen;
     Menu(Menu_MIDI_Setup).chosen = MIDI_Setup_Chosen;
+    Menu(Menu_Tone_Patch).chosen = Tone_Patch_Chosen;
     Menu(Menu_Tone_Send).chosen = Tone_Send_Chosen;
+    Menu(Menu_Help_Howto).chosen = Menu_Help_Howto_Chosen;
+    Menu(Menu_Help_Search).chosen = Menu_Help_Search_Chosen;
+    Menu(Menu_Help_About).chosen = Menu_Help_About_Chosen;
 }

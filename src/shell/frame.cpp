@@ -5,6 +5,7 @@
 #include "desk/settings.h"
 #include "desk/timers.h"
 #include "desk/windows.h"
+#include "filedlg/preview.h"
 #include "midi/devices.h"
 #include "midi/in.h"
 #include "midi/out.h"
@@ -37,7 +38,6 @@ Hook<void()> Settings_Read;
 Hook<void()> Settings_Write;
 Hook<void()> Patch_Lamps_Reset;
 Hook<void()> Juno_Show_Name;
-Hook<bool()> File_Wait_Ended;
 Hook<void()> Help_Show_Waiting;
 
 // Each step may rely on the ones before it.
@@ -156,9 +156,14 @@ bool Main_Close() {
         throw;
     }
     if (!Closing) return false;
-    // A dialog that still stands open goes with the frame, and keeps its own settings as at any close.
+    // A window that still stands open goes with the frame, and keeps its own settings as at any close.
     Window_Unload(MIDI_Setup);
     Window_Unload(TName);
+    Window_Unload(Help);
+    Window_Unload(Input_Dlg);
+    Window_Unload(File_Dlg);
+    Window_Unload(Oscillator);
+    Window_Unload(Patch_MKS70);
     Main_Unload();
     Main_Window.visible = false;
     return true;
@@ -171,7 +176,7 @@ void Main_Background_Click() {
 
 void Main_Display_Tick() {
     Timer_Stop(Timer_Display);
-    if (File_Wait_Ended()) return;
+    if (FD_Timer_Tick()) return;
     if (App_Mode == "Help") {
         Help_Show_Waiting();
         return;

@@ -29,7 +29,5 @@ extern Hook<void()> Settings_Write;
 extern Hook<void()> Patch_Lamps_Reset;
 // The Alpha Juno panel's: the name in its display, and the envelope's picture gone.
 extern Hook<void()> Juno_Show_Name;
-// The file window's: true while it stands open and the tick ends its wait.
-extern Hook<bool()> File_Wait_Ended;
 // The help window's: its display shows "Waiting...".
 extern Hook<void()> Help_Show_Waiting;

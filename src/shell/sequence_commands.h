@@ -1,6 +1,5 @@
 // What the menu does about sequences.
 #pragma once
 
-// Fills in the File menu's sequence entries and the entry that shows the sequencer. Open and Save As follow
-// with the file window.
+// Fills in the File menu's sequence entries and the entry that shows the sequencer.
 void Sequence_Commands_Install();

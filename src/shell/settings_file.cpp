@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "desk/folders.h"
 #include "desk/menus.h"
@@ -231,9 +233,12 @@ void Read_All() {
 void Write_All() {
     std::array<const Setting*, Settings.size()> lines = {};
     for (const Setting& setting : Settings) lines.at(static_cast<std::size_t>(setting.line - 1)) = &setting;
+    std::vector<Setting_Value> values;
     for (const Setting* setting : lines) {
-        if (const Stored value = setting->write()) Setting_Put(setting->section, setting->key, *value);
+        if (Stored value = setting->write())
+            values.push_back({setting->section, setting->key, std::move(*value)});
     }
+    Settings_Put(values);
     Event_Loop_Turn();
 }
 

@@ -4,6 +4,7 @@
 #include "desk/menus.h"
 #include "desk/recent.h"
 #include "desk/timers.h"
+#include "filedlg/file_dlg.h"
 #include "midi/in.h"
 #include "midi/out.h"
 #include "panels/editor.h"
@@ -36,8 +37,6 @@ void Open_Recent(int place) {
 
 }  // namespace
 
-Hook<void(const char* mode)> File_Window_Open;
-
 void File_SYX_New_Chosen() {
     if (!Tone_May_Go(Buttons_Set::Yes_No)) return;
     Tone_Saved = Flag_16::True;
@@ -48,7 +47,7 @@ void File_SYX_New_Chosen() {
 }
 
 void File_SYX_Open_Chosen() {
-    if (Tone_May_Go(Buttons_Set::Yes_No_Cancel)) File_Window_Open("Open_SYX");
+    if (Tone_May_Go(Buttons_Set::Yes_No_Cancel)) FD_Show("Open_SYX");
 }
 
 void File_SYX_Save_Chosen() {
@@ -81,7 +80,9 @@ void Tone_Receive_Chosen() {
 void Tone_Commands_Install() {
     Menu(Menu_File_SYX).opened = File_SYX_Opened;
     Menu(Menu_File_SYX_New).chosen = File_SYX_New_Chosen;
+    Menu(Menu_File_SYX_Open).chosen = File_SYX_Open_Chosen;
     Menu(Menu_File_SYX_Save).chosen = File_SYX_Save_Chosen;
+    Menu(Menu_File_SYX_SaveAs).chosen = [] { SYX_Save_As(); };
     // No question here: a recent file takes the place of unsaved changes without a word.
     Menu(Menu_File_SYX_1).chosen = [] { Open_Recent(1); };
     Menu(Menu_File_SYX_2).chosen = [] { Open_Recent(2); };
@@ -90,11 +91,6 @@ void Tone_Commands_Install() {
     Menu(Menu_Edit_Undo).chosen = Undo_Restore;
     Menu(Menu_Tone_Random).chosen = Tone_Random;
     Menu(Menu_Tone_Receive).chosen = Tone_Receive_Chosen;
-}
-
-void File_Commands_Install() {
-    Menu(Menu_File_SYX_Open).chosen = File_SYX_Open_Chosen;
-    Menu(Menu_File_SYX_SaveAs).chosen = [] { SYX_Save_As(); };
 }
 
 void Name_Command_Install() {

@@ -4,8 +4,6 @@
 // the command goes on only when the tone is saved then.
 #pragma once
 
-#include "platform/hook.h"
-
 void File_SYX_New_Chosen();
 void File_SYX_Open_Chosen();
 void File_SYX_Save_Chosen();  // Save As while the tone has no file name
@@ -14,14 +12,8 @@ void File_SYX_Save_Chosen();  // Save As while the tone has no file name
 // open.
 void File_SYX_Opened();
 
-// Filled in by the file window: opens it in this mode ("Open_SYX") and returns at once.
-extern Hook<void(const char* mode)> File_Window_Open;
-
-// Gives the entries their procedures, except those that lead into windows.
+// Gives the entries their procedures.
 void Tone_Commands_Install();
-
-// Open and Save As. Called when the file window is there: an entry without a procedure is not shown.
-void File_Commands_Install();
 
 // Name, with the dialog behind it. Called when the dialog's window is there.
 void Name_Command_Install();

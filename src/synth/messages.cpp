@@ -1,6 +1,10 @@
 #include "synth/messages.h"
 
+#include <utility>
+
+#include "synth/juno.h"
 #include "synth/patch.h"
+#include "synth/patch_mks70.h"
 #include "synth/profile.h"
 #include "synth/tokens.h"
 #include "synth/tone.h"
@@ -23,8 +27,22 @@ void Append_Pair(std::string& text, std::size_t number, std::uint8_t value) {
     Append_Token(text, value);
 }
 
+std::string Param_Text(std::size_t number, std::uint8_t value) {
+    std::string text = Sysex_Header_IPR;
+    Append_Pair(text, number, value);
+    return text + End;
+}
+
 void Send_Param_Text() {
     MIDI_Send_Long(Sysex_Text_To_Bytes(Sysex_Param_Text));
+}
+
+// Literals, not the profile's header: parameters at patch level say 21 to every instrument.
+void Send_Patch_Level(std::size_t number, std::uint8_t value) {
+    Sysex_Param_Text = "F0 41 36 " + Channel_Token() + " 21 30 01 ";
+    Append_Pair(Sysex_Param_Text, number, value);
+    Sysex_Param_Text += End;
+    Send_Param_Text();
 }
 
 }  // namespace
@@ -56,31 +74,40 @@ void Tone_Send() {
 
 void Editor_Send_Param(std::size_t parameter) {
     if (!Automatic()) return;
-    Sysex_Param_Text = Sysex_Header_IPR;
-    Append_Pair(Sysex_Param_Text, parameter, Tone_Byte(parameter));
-    Sysex_Param_Text += End;
+    Sysex_Param_Text = Param_Text(parameter, Tone_Byte(parameter));
+    Send_Param_Text();
+}
+
+void Juno_Send_Param(std::size_t parameter) {
+    if (!Automatic()) return;
+    std::string text = Param_Text(parameter, Juno_Byte(parameter));
+    if (text == Sysex_Param_Text) return;
+    Sysex_Param_Text = std::move(text);
     Send_Param_Text();
 }
 
 void Patch_Send_Param(std::size_t parameter) {
-    if (!Automatic()) return;
-    if (parameter >= Patch_Size) throw Fatal_Error("Subscript out of range");
-    // Literals, not the profile's header: patch parameters say 21 to every instrument.
-    Sysex_Param_Text = "F0 41 36 " + Channel_Token() + " 21 30 01 ";
-    Append_Pair(Sysex_Param_Text, parameter, Patch_Data[parameter]);
-    Sysex_Param_Text += End;
-    Send_Param_Text();
+    if (Automatic()) Send_Patch_Level(parameter, Patch_Byte(parameter));
+}
+
+void Patch_MKS70_Param_Send(std::size_t index) {
+    if (Automatic()) Send_Patch_Level(index, Patch_MKS70_Byte(index));
 }
 
 void Tone_Name_Send() {
     if (!Automatic()) return;
     Sysex_Param_Text = Sysex_Header_IPR;
     for (std::size_t index = 0; index < Tone_Name_Size; ++index) {
-        Append_Pair(Sysex_Param_Text, index, Tone_Data[index]);
+        if (Is_Alpha_Juno()) {
+            const std::size_t parameter = Juno_Name_Place + index;
+            Append_Pair(Sysex_Param_Text, parameter, Juno_Data[parameter]);
+        } else {
+            Append_Pair(Sysex_Param_Text, index, Tone_Data[index]);
+        }
         Sysex_Param_Text += ' ';
     }
     // The second blank in a row: behind a value of two digits the pairs fall on " F", so the message ends
-    // in 0F.
+    // in 0F. Behind one digit, as an Alpha Juno's codes below 16 are, it ends in F7.
     Sysex_Param_Text += End;
     Send_Param_Text();
 }

@@ -166,7 +166,6 @@ std::size_t SYX_Image_Build() {
 void SYX_Save() {
     Sysex_Headers_Update();
     const std::size_t count = SYX_Image_Build();
-    if (count == 0) return;
     const std::string contents(SYX_Image.begin(), SYX_Image.begin() + static_cast<std::ptrdiff_t>(count));
     const int error = File_Overwrite(Tone_File_Name, contents);
     if (error != 0) {

@@ -6,6 +6,7 @@
 #include "desk/windows.h"
 #include "platform/text.h"
 #include "synth/patch.h"
+#include "synth/patch_mks70.h"
 #include "synth/profile.h"
 #include "synth/views.h"
 
@@ -50,6 +51,7 @@ void Tone_Init() {
     Tone_Saved = Flag_16::True;
     Tone_File_Short.clear();
     Tone_File_Name.clear();
+    Patch_Name_Text.clear();
     Main_Window.caption = "Tonebench";
     Menu(Menu_File_SYX_Save).enabled = false;
 

@@ -8,15 +8,6 @@
 
 namespace {
 
-void Copy_Back() {
-    if (Is_Alpha_Juno()) {
-        Juno_Undo_Restore();
-    } else {
-        Tone_Data = Tone_Undo;
-        Patch_Data = Patch_Undo;
-    }
-}
-
 void Show_Patch() {
     if (Is_True(Patch_Window_Open)) Panel_Apply_Patch();
 }
@@ -32,7 +23,7 @@ void Undo_Store() {
 }
 
 void Undo_Restore() {
-    Copy_Back();
+    Tone_Backup_Put_Back();
     if (Is_Alpha_Juno()) {
         Juno_To_Panel();
     } else {
@@ -52,8 +43,17 @@ void Tone_Backup_Store() {
     }
 }
 
+void Tone_Backup_Put_Back() {
+    if (Is_Alpha_Juno()) {
+        Juno_Undo_Restore();
+    } else {
+        Tone_Data = Tone_Undo;
+        Patch_Data = Patch_Undo;
+    }
+}
+
 void Tone_Backup_Restore() {
-    Copy_Back();
+    Tone_Backup_Put_Back();
     if (Is_Alpha_Juno()) {
         Juno_To_Panel();
     } else {

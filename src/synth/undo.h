@@ -22,3 +22,4 @@ void Undo_Restore();
 // The same without the menu. The tone goes to the instrument only when automatic sending is on.
 void Tone_Backup_Store();
 void Tone_Backup_Restore();
+void Tone_Backup_Put_Back();  // the records only: nothing is shown or sent

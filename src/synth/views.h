@@ -1,4 +1,5 @@
-// What the records ask of the windows that show them. Filled in by panels/.
+// What the records ask of the windows that show them, filled in by panels/; and the Alpha Juno's part in
+// what is done to a whole tone, filled in by its own files.
 #pragma once
 
 #include <cstdint>

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 
+#include "fakes/plain_user.h"
 #include "fakes/stage.h"
 #include "platform/files.h"
 
@@ -165,6 +166,40 @@ TEST_F(Settings_File, that_is_marked_read_only_is_left_alone_without_a_word) {
     EXPECT_EQ(Channel(), "6");
 }
 
+TEST_F(Settings_File, that_this_user_may_not_write_is_left_alone_without_a_word) {
+    Write_Settings("[MIDI]\nChannel=5\n");
+    const Plain_User user;
+    ASSERT_EQ(::chmod(INI_File.c_str(), 0466), 0);
+    Setting_Put("MIDI", "Channel", "6");
+    EXPECT_EQ(Read_Settings(), "[MIDI]\nChannel=5\n");
+    EXPECT_EQ(Channel(), "5");
+    EXPECT_TRUE(Boxes.empty());
+}
+
+TEST_F(Settings_File, that_may_not_be_read_gives_the_defaults_and_loses_nothing) {
+    Write_Settings("; mine\n[MIDI]\nChannel=5\n");
+    {
+        const Plain_User user;
+        ASSERT_EQ(::chmod(INI_File.c_str(), 0200), 0);
+        EXPECT_EQ(Channel(), "1");
+        Setting_Put("MIDI", "Channel", "6");
+        ASSERT_EQ(::chmod(INI_File.c_str(), 0600), 0);
+        EXPECT_EQ(Read_Settings(), "; mine\n[MIDI]\nChannel=5\n");
+    }
+    EXPECT_TRUE(Boxes.empty());
+}
+
+TEST_F(Settings_File, in_a_folder_that_is_read_only_is_left_alone_without_a_word) {
+    Write_Settings("[MIDI]\nChannel=5\n");
+    const Plain_User user;
+    ASSERT_EQ(::chmod(Test_Folder().c_str(), 0500), 0);
+    Setting_Put("MIDI", "Channel", "6");
+    EXPECT_EQ(Channel(), "5");
+    EXPECT_EQ(Entries_In_Folder(), 1U);
+    EXPECT_TRUE(Boxes.empty());
+    ASSERT_EQ(::chmod(Test_Folder().c_str(), 0700), 0);
+}
+
 TEST_F(Settings_File, without_a_path_is_no_file) {
     INI_File.clear();
     Setting_Put("MIDI", "Channel", "5");
@@ -181,6 +216,23 @@ TEST_F(Settings_File, is_replaced_in_one_step) {
     ASSERT_EQ(::stat(INI_File.c_str(), &now), 0);
     EXPECT_NE(old.st_ino, now.st_ino);
     EXPECT_EQ(Entries_In_Folder(), 1U);
+}
+
+TEST_F(Settings_File, takes_several_values_in_their_order) {
+    Write_Settings("; mine\n[MIDI]\nChannel=1\n");
+    Settings_Put({{"Main Window", "Left", " 7 "},
+                  {"MIDI", "Output", "Synth Out"},
+                  {"MIDI", "Channel", "5"},
+                  {"Main Window", "Top", "8"},
+                  {"MIDI", "Output", "Other Out"}});
+    EXPECT_EQ(Read_Settings(),
+              "; mine\n[MIDI]\nChannel=5\nOutput=Other Out\n[Main Window]\nLeft=7\nTop=8\n");
+}
+
+TEST_F(Settings_File, takes_one_line_of_a_name_that_holds_a_line_end) {
+    Setting_Put("Recent Files", "Tone1", "/A\n[MIDI]\nChannel=9");
+    EXPECT_EQ(Read_Settings(), "[Recent Files]\nTone1=/A\n");
+    EXPECT_EQ(Channel(), "1");
 }
 
 TEST_F(Settings_File, may_be_a_link) {

@@ -40,6 +40,11 @@ std::string Upper(std::string text) {
     return text;
 }
 
+std::string Lower(std::string text) {
+    for (char& letter : text) letter = static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
+    return text;
+}
+
 std::string Contents(const std::filesystem::path& path) {
     std::ostringstream text;
     text << std::ifstream(path, std::ios::binary).rdbuf();
@@ -165,6 +170,8 @@ TEST_F(Tones_On_The_Desktop, come_back_with_window_folder_options_and_recent_fil
     EXPECT_NE(settings.find("Autoplay=0\n"), std::string::npos);
     EXPECT_NE(settings.find("Soundcheck Note=48\n"), std::string::npos);
     EXPECT_NE(settings.find("Tone1=" + Upper(file.string()) + "\n"), std::string::npos);
+    const std::string folder = "\nTones=" + Lower((folder_ / "Tones").string()) + "/\n";
+    EXPECT_NE(settings.find(folder), std::string::npos) << settings;
 
     std::this_thread::sleep_for(1s);  // the server looks after the client that has gone
     const std::size_t before = Witnessed(messages).size();

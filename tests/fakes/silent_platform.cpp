@@ -1,9 +1,8 @@
-// The smallest bodies of the platform, for figures and fuzz targets: nothing is shown, no time passes and
-// nothing comes in. The output is the user's own.
+// The smallest bodies of the platform, for figures and fuzz targets: nothing is shown and no time passes.
+// The ports are the user's own.
 #include "platform/display.h"
 #include "platform/event_loop.h"
 #include "platform/message_box.h"
-#include "platform/midi_port.h"
 #include "platform/timer.h"
 #include "platform/wake_up.h"
 
@@ -28,6 +27,9 @@ bool Event_Loop_Wait(int) {
 double Display_Logical_Density() {
     return 96;
 }
+int Display_Width() {
+    return 1920;
+}
 int Display_Height() {
     return 1080;
 }
@@ -44,44 +46,3 @@ void Beep() {}
 
 void Wake_Up_Begin(Hook<void()>) {}
 void Wake_Up_End() {}
-
-std::vector<std::string> Port_In_Names() {
-    return {};
-}
-Port_Result Port_In_Open(int, Port_Handle&) {
-    return Port_No_Driver;
-}
-Port_Result Port_In_Prepare(Port_Handle, Block_Address) {
-    return Port_Bad_Handle;
-}
-Port_Result Port_In_Add_Buffer(Port_Handle, Block_Address) {
-    return Port_Bad_Handle;
-}
-Block_Address Port_In_Next(Port_Handle) {
-    return 0;
-}
-bool Port_In_Refused(Port_Handle) {
-    return false;
-}
-bool Port_In_Present(Port_Handle) {
-    return false;
-}
-Port_Result Port_In_Reset(Port_Handle) {
-    return Port_Bad_Handle;
-}
-Port_Result Port_In_Close(Port_Handle) {
-    return Port_Bad_Handle;
-}
-Block_Handle Block_Make(std::size_t) {
-    return 0;
-}
-Block_Address Block_Lock(Block_Handle) {
-    return 0;
-}
-void Block_Page_Lock(Block_Handle) {}
-void Block_Page_Unlock(Block_Handle) {}
-void Block_Unlock(Block_Handle) {}
-void Block_Free(Block_Handle) {}
-std::span<char> Block_At(Block_Address) {
-    return {};
-}

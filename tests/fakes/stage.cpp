@@ -6,6 +6,12 @@
 #include "shell/frame.h"
 #include "shell/wiring.h"
 
+namespace {
+
+const Panel* Played = &Editor_Panel;
+
+}  // namespace
+
 Stage::Stage() {
     Ports.out_names = {"Synth Out"};
     Ports.in_names = {"Keys In"};
@@ -30,8 +36,12 @@ std::string Read_Settings() {
     return File_Read_Whole(Test_Folder() + "/Tonebench.INI").value_or("(none)");
 }
 
+void Play_On(const Panel& panel) {
+    Played = &panel;
+}
+
 Control& At(const std::string& name) {
-    for (Control* control : Editor_Panel.controls) {
+    for (Control* control : Played->controls) {
         if (name == control->name) return *control;
     }
     throw Fatal_Error("no control " + name);
@@ -39,35 +49,36 @@ Control& At(const std::string& name) {
 
 void Focus(const std::string& name) {
     Control& control = At(name);
-    if (Editor.active_control == &control && control.focusable) return;
-    if (Editor.active_control != nullptr) Editor_Panel.events.focus_lost(*Editor.active_control);
-    Editor_Panel.events.focus_gained(control);
+    Control* const before = Played->window->active_control;
+    if (before == &control && control.focusable) return;
+    if (before != nullptr) Played->events.focus_lost(*before);
+    Played->events.focus_gained(control);
 }
 
 void Press(const std::string& name, Mouse_Button button) {
     Focus(name);
-    Editor_Panel.events.button_pressed(At(name), button);
+    Played->events.button_pressed(At(name), button);
 }
 
 void Drag(const std::string& name, double row) {
-    Editor_Panel.events.pointer_moved(At(name), row);
+    Played->events.pointer_moved(At(name), row);
 }
 
 void Release(const std::string& name, Mouse_Button button) {
-    Editor_Panel.events.button_released(At(name), button);
+    Played->events.button_released(At(name), button);
 }
 
 void Click(const std::string& name) {
     Press(name);
     Release(name);
-    Editor_Panel.events.clicked(At(name));
+    Played->events.clicked(At(name));
 }
 
 void Key(const std::string& name, int key) {
     Focus(name);
-    Editor_Panel.events.key_pressed(At(name), key);
+    Played->events.key_pressed(At(name), key);
 }
 
 std::string Shown() {
-    return Editor_Tone_Name.text;
+    return At("Tone_Name").text;
 }

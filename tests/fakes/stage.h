@@ -31,7 +31,10 @@ class Started_Stage : public Stage {
 void Write_Settings(const std::string& text);
 std::string Read_Settings();
 
-// A control of Editor by its name, dots and buttons included.
+// The panel that the words below play on; Editor's from the start.
+void Play_On(const Panel& panel);
+
+// A control of that panel by its name, dots and buttons included.
 Control& At(const std::string& name);
 
 // Gives the control the focus, as the window does before any press or key.

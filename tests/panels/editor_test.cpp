@@ -353,6 +353,53 @@ TEST_F(The_Editor, keyboard_plays_the_first_column_when_it_holds_anything) {
     EXPECT_EQ(sent[12], "95 30 3F");
 }
 
+TEST_F(The_Editor, keyboard_sends_the_empty_rows_of_the_column_as_ends_of_their_notes) {
+    Seq_Base_Note = 48;
+    Seq_Notes[4] = 100;
+    Press("Keys_Pic");
+    EXPECT_EQ(Sent(),
+              (Lines{"90 3C 00", "90 3B 00", "90 3A 00", "90 39 00", "90 38 64", "90 37 00", "90 36 00",
+                     "90 35 00", "90 34 00", "90 33 00", "90 32 00", "90 31 00", "90 30 00"}));
+}
+
+TEST_F(The_Editor, keyboard_plays_the_chord_on_the_present_channel_and_the_column_on_the_last_one) {
+    MIDI_Channel = 3;
+    Seq_Status = 0x95;
+    Press("Keys_Pic");
+    EXPECT_EQ(Sent().front().substr(0, 2), "92");
+    Seq_Notes[0] = 127;
+    Press("Keys_Pic");
+    EXPECT_EQ(Sent().front().substr(0, 2), "95");
+}
+
+TEST_F(The_Editor, keyboard_opens_the_port_once) {
+    Press("Keys_Pic");
+    Press("Keys_Pic");
+    EXPECT_EQ(Ports.open_calls, 1);
+}
+
+TEST_F(The_Editor, keyboard_silences_without_having_played) {
+    Press("Keys_Pic", Mouse_Button::Right);
+    EXPECT_EQ(At("Keys_Pic").picture.item, Keys_Up);
+    EXPECT_EQ(Sent(), Lines{"B0 7B 00"});
+}
+
+TEST_F(The_Editor, keyboard_tells_of_a_chord_that_cannot_be_sent_once) {
+    Press("Keys_Pic");
+    Ports.send_result = Port_Gone;
+    Expect_Box("MIDI_SendNote*: (68) Text of 68");
+    Press("Keys_Pic");
+    EXPECT_EQ(MIDI_Enabled, 0);
+}
+
+TEST_F(The_Editor, keyboard_has_this_help) {
+    EXPECT_STREQ(
+        At("Keys_Pic").help,
+        "Click with the left button to play some notes. If the Sequencer matrix is filled, then the "
+        "notes of the first column in the Sequencer matrix will be played. Click with the right mouse "
+        "button to stop the notes playing.");
+}
+
 TEST_F(The_Editor, keyboard_tells_a_port_that_cannot_be_opened_once) {
     Seq_Notes[0] = 127;
     Ports.open_result = Port_Failed;

@@ -90,12 +90,12 @@ TEST_F(Focus_Mark, on_a_lamp_shows_the_lamps_own_pictures_and_relights_the_selec
 }
 
 TEST_F(Focus_Mark, of_a_knob_on_a_window_that_is_not_there_does_nothing) {
-    Control knob = {.name = "UDTune_Knopf", .kind = "kn2fp"};
+    Control knob = {.name = "Tune_Knopf", .kind = "knh"};
     Panel_Current_Control = &knob;
     Panel_Blink();
     Panel_Restore_Picture();
     EXPECT_EQ(knob.picture, Picture{});
-    Panel_Knob_Show("kn2fp", 10, 12, 3);
+    Panel_Knob_Show("knh", 10, 12, 3);
     Panel_Knob_Show("bm", 10, 12, 3);
 }
 

@@ -37,6 +37,8 @@ const std::vector<Expected> Catalogue = {
     {Picture_Store::LED,      1, "led_1",      14, 14},
     {Picture_Store::LED,      2, "led_2",      14, 14},
     {Picture_Store::LED,      3, "led_3",      14, 14},
+    {Picture_Store::LED,      4, "led_4",      14, 14},
+    {Picture_Store::LED,      5, "led_5",      14, 14},
     {Picture_Store::Button_Up3D,    0, "button_up3d",    22, 22},
     {Picture_Store::Button_Dn3D,    0, "button_dn3d",    22, 22},
     {Picture_Store::Start_Enabled,  0, "start_enabled",  14, 14},
@@ -59,9 +61,17 @@ const std::vector<Expected> Catalogue = {
     {Picture_Store::Dlg2_Dn,     0, "dlg2_dn",     65, 34},
     {Picture_Store::Dlg2_Ok,     0, "dlg2_ok",     51, 20},
     {Picture_Store::Dlg2_Cancel, 0, "dlg2_cancel", 51, 20},
+    {Picture_Store::Tone_A_Pic,  0, "tone_a_pic",  14, 14},
+    {Picture_Store::Tone_B_Pic,  0, "tone_b_pic",  14, 14},
     {Picture_Store::Back_Pic,      0, "back_pic",       64, 64},
     {Picture_Store::Pic_Tonebench, 0, "pic_tonebench", 110, 50},
     {Picture_Store::Pic_Sign,      0, "pic_sign",       79, 14},
+    {Picture_Store::FD_Symbols,    0, "fd_symbols_0",   14, 14},
+    {Picture_Store::FD_Symbols,    2, "fd_symbols_2",   14, 14},
+    {Picture_Store::FD_Icons,      0, "fd_icons_0",     16, 14},
+    {Picture_Store::FD_Icons,      2, "fd_icons_2",     16, 14},
+    {Picture_Store::FD_SEQ_Pics,   0, "fd_seq_pics_0",   7,  7},
+    {Picture_Store::FD_SEQ_Pics,   3, "fd_seq_pics_3",   7,  7},
 };
 // clang-format on
 
@@ -87,7 +97,7 @@ TEST(The_Catalogue, refuses_an_item_that_it_does_not_hold) {
     EXPECT_THROW(Picture_Of(Picture_Store::Buttons, 11), Fatal_Error);
     EXPECT_THROW(Picture_Of(Picture_Store::Buttons, -1), Fatal_Error);
     EXPECT_THROW(Picture_Of(Picture_Store::Record, 1), Fatal_Error);
-    EXPECT_THROW(Picture_Of(Picture_Store::LED, 4), Fatal_Error);
+    EXPECT_THROW(Picture_Of(Picture_Store::LED, 6), Fatal_Error);
 }
 
 TEST(The_Catalogue, is_packed_into_the_program_whole) {

@@ -4,6 +4,7 @@
 #include "desk/menus.h"
 #include "fakes/stage.h"
 #include "midi/in.h"
+#include "panels/juno_panel.h"
 #include "sequencer/sequence.h"
 #include "synth/tone.h"
 
@@ -11,33 +12,23 @@ namespace {
 
 constexpr Menu_Id Top_Menus[] = {Menu_File, Menu_Edit, Menu_Tone, Menu_MIDI, Menu_Windows, Menu_Help};
 
-// The same two buttons as they stand on the other editor window.
-Control Other_Start_Pic;
-Control Other_Stop_Pic;
-Control Other_Start = {.name = "ED_Seq_Start", .symbol = &Other_Start_Pic};
-Control Other_Stop = {.name = "ED_Seq_Stop", .symbol = &Other_Stop_Pic};
-
 }  // namespace
 
 class Receive_Mode : public Started_Stage {
   protected:
-    Receive_Mode() {
-        Editor_Seq_Start.twin = &Other_Start;
-        Editor_Seq_Stop.twin = &Other_Stop;
-        MIDI_In_Open();
-    }
+    Receive_Mode() { MIDI_In_Open(); }
 
     static void Expect_Pictures(Picture_Store button, Picture_Store start, Picture_Store stop) {
-        for (const Control* control : {&Editor_Seq_Start, &Other_Start})
+        for (const Control* control : {&Editor_Seq_Start, &Juno_Seq_Start})
             EXPECT_EQ(control->picture, Picture_Of(button));
-        for (const Control* control : {&Editor_Seq_Start_Pic, &Other_Start_Pic})
+        for (const Control* control : {&Editor_Seq_Start_Pic, &Juno_Seq_Start_Pic})
             EXPECT_EQ(control->picture, Picture_Of(start));
-        for (const Control* control : {&Editor_Seq_Stop_Pic, &Other_Stop_Pic})
+        for (const Control* control : {&Editor_Seq_Stop_Pic, &Juno_Seq_Stop_Pic})
             EXPECT_EQ(control->picture, Picture_Of(stop));
     }
     static void Expect_Start_Enabled(bool enabled) {
         EXPECT_EQ(Editor_Seq_Start.enabled, enabled);
-        EXPECT_EQ(Other_Start.enabled, enabled);
+        EXPECT_EQ(Juno_Seq_Start.enabled, enabled);
     }
     static void Expect_Menus(bool enabled) {
         for (const Menu_Id id : Top_Menus) EXPECT_EQ(Menu(id).enabled, enabled) << Menu(id).name;
@@ -90,6 +81,7 @@ TEST_F(Receive_Mode, is_left_with_the_port_closed_and_everything_free) {
     Expect_Pictures(Picture_Store::Button_Up3D, Picture_Store::Start_Disabled,
                     Picture_Store::Stop_Disabled);
     EXPECT_EQ(Editor_Seq_Start_Pic.left, 3);
+    EXPECT_EQ(Juno_Seq_Start_Pic.left, 3);
     Expect_Start_Enabled(true);
     Expect_Menus(true);
 }

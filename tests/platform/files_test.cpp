@@ -9,6 +9,7 @@
 #include <fstream>
 
 #include "fakes/fake_program.h"
+#include "fakes/plain_user.h"
 
 namespace {
 
@@ -59,6 +60,36 @@ TEST(File, that_is_missing_or_is_a_folder_or_has_no_name_is_not_read) {
     EXPECT_EQ(File_Read_Whole(Path("folder")), std::nullopt);
     EXPECT_EQ(File_Read_Whole(Path("missing/x")), std::nullopt);
     EXPECT_EQ(File_Read_Whole(""), std::nullopt);
+}
+
+TEST(File, that_cannot_be_read_to_its_end_is_not_read_at_all) {
+    EXPECT_EQ(File_Read_Whole("/proc/self/mem"), std::nullopt);
+}
+
+TEST(File, that_is_a_pipe_or_a_device_is_not_read_and_nothing_waits) {
+    ASSERT_EQ(::mkfifo(Path("pipe").c_str(), 0600), 0);
+    EXPECT_EQ(File_Read_Whole(Path("pipe")), std::nullopt);
+    EXPECT_EQ(File_Read_Whole("/dev/zero"), std::nullopt);
+}
+
+TEST(File, of_several_blocks_is_read_whole) {
+    std::string contents;
+    for (int number = 0; contents.size() < 200'000; ++number) contents += std::to_string(number);
+    Write(Path("x"), contents);
+    EXPECT_EQ(File_Read_Whole(Path("x")), contents);
+}
+
+TEST(File, is_read_only_when_nobody_or_not_this_user_may_write_it) {
+    EXPECT_FALSE(File_Is_Read_Only(Path("missing")));
+    Write(Path("x"), "old");
+    EXPECT_FALSE(File_Is_Read_Only(Path("x")));
+    ::chmod(Path("x").c_str(), 0444);
+    EXPECT_TRUE(File_Is_Read_Only(Path("x"))) << "also for the system's administrator";
+    const Plain_User user;
+    ::chmod(Path("x").c_str(), 0466);
+    EXPECT_TRUE(File_Is_Read_Only(Path("x"))) << "others may, its owner may not";
+    ::chmod(Path("x").c_str(), 0200);
+    EXPECT_FALSE(File_Is_Read_Only(Path("x")));
 }
 
 TEST(File, comes_into_being_when_it_is_replaced) {

@@ -194,6 +194,19 @@ TEST_F(Midi_Port_On_Jack, a_port_still_plays_until_its_bytes_have_had_their_time
     EXPECT_EQ(Port_Out_Short(handle, All_Notes_Off), Port_Bad_Handle);
 }
 
+TEST_F(Midi_Port_On_Jack, a_flood_holds_the_close_up_by_what_the_buffers_hold_and_no_more) {
+    Start_Server_And_Witness();
+    const Port_Handle handle = Opened("witness:input");
+    // Six seconds on the wire, sent in less than one.
+    for (int count = 0; count < 2000; ++count) {
+        EXPECT_EQ(Port_Out_Long(handle, Ten_Bytes), Port_Ok);
+        std::this_thread::sleep_for(200us);
+    }
+    const auto begin = Clock::now();
+    EXPECT_EQ(Closed(handle), Port_Ok);
+    EXPECT_LT(Clock::now() - begin, 2s);
+}
+
 TEST_F(Midi_Port_On_Jack, nothing_is_lost_when_the_port_closes_right_after_the_last_message) {
     Start_Server_And_Witness();
     constexpr std::size_t Rounds = 20;

@@ -155,6 +155,15 @@ TEST(Profile_File, keeps_all_other_bytes_whatever_they_are) {
     EXPECT_EQ(With("[MIDI]\nChannel=1\n" + bytes, "5"), "[MIDI]\nChannel=5\n" + bytes);
 }
 
+TEST(Profile_File, takes_one_line_of_a_value_and_no_more) {
+    const std::string text = "[MIDI]\nChannel=1\nOutput=x\n";
+    for (const char* value : {"/a\nb.syx", "/a\rb.syx", "/a\r\n[MIDI]\r\nOutput=y", "/a\n"}) {
+        EXPECT_EQ(With(text, value), "[MIDI]\nChannel=/a\nOutput=x\n");
+        EXPECT_EQ(With("", value), "[MIDI]\nChannel=/a\n");
+    }
+    EXPECT_EQ(With(text, "\nb"), "[MIDI]\nChannel=\nOutput=x\n");
+}
+
 TEST(Profile_File, is_not_longer_for_a_value_that_is_written_again) {
     const std::string once = With("[MIDI]\n", "5");
     EXPECT_EQ(With(once, "5"), once);

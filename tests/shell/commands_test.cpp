@@ -167,3 +167,51 @@ TEST_F(Menu_Command, send_leaves_the_tone_as_saved_as_it_was) {
     Menu(Menu_Tone_Send).chosen();
     EXPECT_EQ(Tone_Saved, Flag_16::False);
 }
+
+// -- Patch -----------------------------------------------------------------------------------------------
+
+TEST_F(Menu_Command, patch_opens_the_patch_window_in_its_remembered_place) {
+    Patch_Left = 300;
+    Patch_Top = 75;
+    Menu(Menu_Tone_Patch).chosen();
+    EXPECT_TRUE(Patch.visible);
+    EXPECT_EQ(Patch.left, 20);
+    EXPECT_EQ(Patch.top, 5);
+    EXPECT_EQ(App_Mode, "") << "it is no dialog";
+    EXPECT_TRUE(Editor.enabled);
+    // Chosen again it comes back to that place and to the front.
+    Patch.left = 77;
+    const int times_raised = Patch.times_raised;
+    Menu(Menu_Tone_Patch).chosen();
+    EXPECT_EQ(Patch.left, 20);
+    EXPECT_EQ(Patch.times_raised, times_raised + 1);
+    EXPECT_TRUE(Sent().empty());
+}
+
+TEST_F(Menu_Command, patch_answers_under_the_MKS_70_with_a_message) {
+    Synthesizer = "MKS-70";
+    Sysex_Headers_Update();
+    EXPECT_TRUE(Menu(Menu_Tone_Patch).enabled);
+    Expect_Box("Sorry, patch settings not available yet.");
+    Menu(Menu_Tone_Patch).chosen();
+    EXPECT_EQ(Boxes.back().icon, Icon::Exclamation);
+    EXPECT_EQ(Boxes.back().buttons, Buttons_Set::Ok);
+    EXPECT_FALSE(Patch.loaded);
+    EXPECT_FALSE(Patch_MKS70.loaded);
+}
+
+TEST_F(Menu_Command, patch_is_disabled_under_the_alpha_juno_and_an_open_window_stays) {
+    Menu(Menu_Tone_Patch).chosen();
+    Synthesizer = "Alpha Juno";
+    Sysex_Headers_Update();
+    EXPECT_FALSE(Menu(Menu_Tone_Patch).enabled);
+    EXPECT_TRUE(Patch.visible);
+    Window_Unload(Patch);
+    Menu(Menu_Tone_Patch).chosen();
+    EXPECT_FALSE(Patch.loaded) << "any other name opens nothing";
+}
+
+TEST_F(Menu_Command, patch_has_the_shortcut_ctrl_p) {
+    EXPECT_STREQ(Menu(Menu_Tone_Patch).shortcut, "Ctrl+P");
+    EXPECT_EQ(Menu(Menu_Tone_Patch).caption, "&Patch...");
+}

@@ -194,6 +194,7 @@ TEST_F(Program_End, leaves_windows_alone_that_are_not_open) {
     Patch.unload = [] { Step("Patch"); };
     Window_Load(Sequencer);
     Window_Load(Patch);
+    Patch_Window_Open = Flag_8::False;
     EXPECT_TRUE(Main_Query_Unload());
     EXPECT_EQ(Steps, Lines{});
 }

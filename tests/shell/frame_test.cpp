@@ -4,6 +4,7 @@
 #include "desk/menus.h"
 #include "desk/timers.h"
 #include "fakes/stage.h"
+#include "filedlg/state.h"
 #include "synth/tone.h"
 
 namespace {
@@ -13,7 +14,6 @@ using std::chrono::milliseconds;
 
 Window Dialog = {.name = "File_Dlg"};
 Lines Steps;
-bool File_Window_Open = false;
 
 }  // namespace
 
@@ -59,7 +59,6 @@ class Display_Tick : public Started_Stage {
         Editor_Tone_Name.text = "99";
         Juno_Show_Name = [] { Steps.emplace_back("name"); };
         Help_Show_Waiting = [] { Steps.emplace_back("waiting"); };
-        File_Wait_Ended = [] { return File_Window_Open; };
         Timer_Start(Timer_Display);
     }
 };
@@ -101,14 +100,14 @@ TEST_F(Display_Tick, follows_a_drag_of_a_slider) {
 }
 
 TEST_F(Display_Tick, only_ends_the_wait_of_an_open_file_window) {
-    File_Window_Open = true;
+    FD_Open = Flag_16::True;
     App_Mode = "File_Dlg";
     Advance(milliseconds(2000));
     EXPECT_FALSE(Timer_Display.enabled);
     EXPECT_EQ(Shown(), "99") << "stays until the next tick behind the dialog";
     EXPECT_EQ(Steps, Lines{});
 
-    File_Window_Open = false;
+    FD_Open = Flag_16::False;
     App_Mode.clear();
     Timer_Start(Timer_Display);
     Advance(milliseconds(2000));
@@ -116,11 +115,10 @@ TEST_F(Display_Tick, only_ends_the_wait_of_an_open_file_window) {
 }
 
 TEST_F(Display_Tick, stops_the_timer_before_anything_else) {
-    File_Wait_Ended = [] {
+    // Whoever shows the name may start it again.
+    Juno_Show_Name = [] {
         EXPECT_FALSE(Timer_Display.enabled);
-        // Whoever waits on may start it again.
         Timer_Start(Timer_Display);
-        return true;
     };
     Advance(milliseconds(2000));
     EXPECT_TRUE(Timer_Display.enabled);
@@ -134,7 +132,7 @@ TEST_F(Display_Tick, with_the_help_open_shows_that_it_waits) {
 }
 
 TEST_F(Display_Tick, with_the_file_window_open_above_the_help_shows_nothing) {
-    File_Window_Open = true;
+    FD_Open = Flag_16::True;
     App_Mode = "Help";
     Advance(milliseconds(2000));
     EXPECT_EQ(Steps, Lines{});

@@ -1,5 +1,40 @@
 // The settings as a whole: each key with its default, its reading and its text in the file.
+#include <sys/inotify.h>
+#include <unistd.h>
+
 #include "shell/settings_whole.h"
+
+namespace {
+
+// Hears every file that comes into a folder under a name, also over an old one.
+class Written_Names {
+  public:
+    explicit Written_Names(const std::string& folder) : descriptor_(::inotify_init1(IN_NONBLOCK)) {
+        EXPECT_GE(::inotify_add_watch(descriptor_, folder.c_str(), IN_MOVED_TO | IN_CLOSE_WRITE), 0);
+    }
+    ~Written_Names() { ::close(descriptor_); }
+    Written_Names(const Written_Names&) = delete;
+    Written_Names& operator=(const Written_Names&) = delete;
+
+    int Of(const std::string& name) const {
+        int count = 0;
+        alignas(inotify_event) char block[65536];
+        for (ssize_t size = ::read(descriptor_, block, sizeof block); size > 0;
+             size = ::read(descriptor_, block, sizeof block)) {
+            for (ssize_t at = 0; at < size;) {
+                const auto* event = reinterpret_cast<const inotify_event*>(block + at);
+                if (event->len > 0 && name == event->name) ++count;
+                at += static_cast<ssize_t>(sizeof(inotify_event) + event->len);
+            }
+        }
+        return count;
+    }
+
+  private:
+    int descriptor_;
+};
+
+}  // namespace
 
 // -- a first start ---------------------------------------------------------------------------------------
 
@@ -414,60 +449,21 @@ TEST_F(Settings_Whole, that_are_rubbish_are_those_of_a_first_start) {
     }
 }
 
-class Settings_Of_A_Run : public Stage {};
-
-TEST_F(Settings_Of_A_Run, are_read_at_the_start_and_written_at_the_end) {
-    Write_Settings(std::string(Devices) + "Channel=-5\nAutosend=0\n[Main Window]\nLeft=20\n");
-    ASSERT_TRUE(Main_Load());
-    EXPECT_EQ(MIDI_Channel, 5);
-    EXPECT_EQ(MIDI_Autosend, 0);
-    EXPECT_EQ(Main_Window.left, 20);
-    Main_Window.left = 21;
-    EXPECT_EQ(Setting_Get("Main Window", "Left", ""), "20") << "not before the end";
-    ASSERT_TRUE(Main_Close());
-    EXPECT_EQ(Setting_Get("Main Window", "Left", ""), "21");
-    EXPECT_EQ(Setting_Get("MIDI", "Channel", ""), "5");
+TEST_F(Settings_Whole, are_written_in_one_replacement_of_the_file) {
+    Settings_Write();
+    const Written_Names names(Test_Folder());
+    Settings_Write();
+    EXPECT_EQ(names.Of("Tonebench.INI"), 1);
 }
 
-TEST_F(Settings_Of_A_Run, take_1_for_a_channel_over_16) {
-    Write_Settings(std::string(Devices) + "Channel=17\n");
-    ASSERT_TRUE(Main_Load());
-    EXPECT_EQ(MIDI_Channel, 1);
-}
-
-TEST_F(Settings_Of_A_Run, start_the_instrument_that_they_name) {
-    Write_Settings(std::string(Devices) + "Synthesizer=Alpha Juno\n");
-    ASSERT_TRUE(Main_Load());
-    EXPECT_EQ(Synthesizer, "Alpha Juno");
-    EXPECT_TRUE(Editor_Juno.visible);
-    EXPECT_FALSE(Menu(Menu_Tone_Patch).enabled);
-}
-
-TEST_F(Settings_Of_A_Run, keep_a_place_of_0_where_the_stored_one_is_beyond_32767_twips) {
-    Write_Settings(std::string(Devices) + "[Windows]\nSave Positions=1\nPatch Left=3000\nPatch Top=10\n");
-    Patch_Left = 77;
-    ASSERT_TRUE(Main_Load());
-    EXPECT_EQ(Patch_Left, 0);
-    EXPECT_EQ(Patch_Top, 150);
-}
-
-TEST_F(Settings_Of_A_Run, that_the_screen_refuses_stay_as_they_are) {
-    Write_Settings(Devices);
-    Display.density = 144;
-    Answer_With(
-        "Unsupported system font size: 144 ppi (pixel per inch).\r"
-        "Please set the font size to 'small fonts' (96 ppi) or 'large fonts (120 ppi).\r\r"
-        "For additional informations, see the README.TXT file.",
-        Answer::Ok);
-    EXPECT_FALSE(Main_Load());
-    EXPECT_EQ(Read_Settings(), Devices);
-}
-
-TEST_F(Settings_Of_A_Run, that_was_refused_an_end_are_not_written) {
-    Write_Settings(Devices);
-    ASSERT_TRUE(Main_Load());
-    Tone_Saved = Flag_16::False;
-    Answer_With("Save actual TONE first?", Answer::Cancel);
-    EXPECT_FALSE(Main_Close());
-    EXPECT_EQ(Read_Settings(), Devices);
+TEST_F(Settings_Whole, keep_one_line_for_a_file_whose_name_has_two) {
+    std::string folder = Upper_Text(Test_Folder());
+    Recent_Tone_Put(1, folder + "/A\nOUTPUT=B.SYX");
+    Write_Settings("[Recent Files]\n; mine\n");
+    Settings_Write();
+    const std::string once = Read_Settings();
+    EXPECT_NE(once.find("; mine\nTones=/\n"), std::string::npos) << once;
+    EXPECT_NE(once.find("Tone1=" + folder + "/A\nTone2=\n"), std::string::npos) << once;
+    Settings_Write();
+    EXPECT_EQ(Read_Settings(), once);
 }

@@ -244,6 +244,19 @@ TEST_F(Settings_Whole, hold_recent_files_in_upper_case) {
     EXPECT_EQ(Written("Recent Files", "Tone1"), Upper_Text(path));
 }
 
+TEST_F(Settings_Whole, find_recent_files_and_folders_again_whose_names_have_blanks_and_accents) {
+    fs::create_directory(Test_Folder() + "/M\u00fcde T\u00f6ne");
+    const std::string path = Touch("M\u00fcde T\u00f6ne/\u00c9t\u00e9 no 1.syx");
+    Write_Settings("[Recent Files]\nTone1=" + path + "\nTones=" + Test_Folder() + "/M\u00fcde T\u00f6ne\n");
+    Settings_Read();
+    EXPECT_EQ(Tones(), (List{Upper_Text(path)}));
+    EXPECT_EQ(Dir_Tones, Lower_Text(Test_Folder()) + "/m\u00fcde t\u00f6ne/");
+    Settings_Write();
+    Settings_Read();
+    EXPECT_EQ(Tones(), (List{Upper_Text(path)}));
+    EXPECT_EQ(Dir_Tones, Lower_Text(Test_Folder()) + "/m\u00fcde t\u00f6ne/");
+}
+
 TEST_F(Settings_Whole, drop_recent_files_that_have_gone) {
     const List files = Four_Files("Tone", ".syx");
     fs::remove(Test_Folder() + "/b.syx");

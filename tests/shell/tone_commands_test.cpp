@@ -6,6 +6,7 @@
 #include "desk/timers.h"
 #include "desk/windows.h"
 #include "fakes/stage.h"
+#include "filedlg/state.h"
 #include "midi/in.h"
 #include "midi/out.h"
 #include "sequencer/sequence.h"
@@ -14,6 +15,7 @@
 #include "synth/syx_file.h"
 #include "synth/tone.h"
 #include "synth/tone_files.h"
+#include "synth/views.h"
 
 namespace {
 
@@ -29,9 +31,8 @@ Lines Opened;
 class Tone_Command : public Started_Stage {
   protected:
     Tone_Command() {
-        File_Commands_Install();
         SYX_Save_As = [] { ++Saves; };
-        File_Window_Open = [](const char* mode) { Opened.emplace_back(mode); };
+        File_Dlg.load = [] { Opened.push_back(FD_Mode); };
         Tone_Data.fill(5);
         Tone_File_Name = Path("x.syx");
         Main_Window.caption = "Tonebench - X";
@@ -72,6 +73,19 @@ TEST_F(Tone_Command, new_gives_a_new_tone_without_a_question_when_the_old_is_sav
     Choose(Menu_File_SYX_New);
     Expect_New_Tone();
     EXPECT_TRUE(Boxes.empty());
+}
+
+TEST_F(Tone_Command, new_moves_the_panel_without_words_and_sends_behind_that) {
+    static int moved = 0;
+    Panel_Apply_Tone = [] {
+        EXPECT_EQ(Tone_Loading, Flag_8::True);
+        EXPECT_EQ(Tone_Saved, Flag_16::True);
+        EXPECT_EQ(Sent(), Lines{});
+        ++moved;
+    };
+    Choose(Menu_File_SYX_New);
+    EXPECT_EQ(moved, 1);
+    Expect_New_Tone();
 }
 
 TEST_F(Tone_Command, new_asks_about_an_unsaved_tone_and_goes_on_at_no) {
@@ -166,6 +180,7 @@ TEST_F(Tone_Command, open_goes_to_save_as_at_yes_and_on_only_when_that_saved) {
     Answer_With(Save_Tone, Answer::Yes);
     Choose(Menu_File_SYX_Open);
     EXPECT_EQ(Opened, Lines{"Open_SYX"});
+    EXPECT_TRUE(File_Dlg.visible);
 }
 
 // -- Save and Save As ------------------------------------------------------------------------------------
@@ -288,20 +303,8 @@ TEST_F(Tone_Command, submenu_leaves_the_port_open_when_no_sequencer_runs) {
 
 using Menu_Of_Tones = Started_Stage;
 
-TEST_F(Menu_Of_Tones, has_no_entry_that_leads_into_a_window_that_is_not_there) {
-    for (const Menu_Id id :
-         {Menu_File_SYX_New, Menu_File_SYX_Save, Menu_Edit_Undo, Menu_Tone_Random, Menu_Tone_Name})
+TEST_F(Menu_Of_Tones, has_a_procedure_for_every_entry) {
+    for (const Menu_Id id : {Menu_File_SYX_New, Menu_File_SYX_Open, Menu_File_SYX_Save,
+                             Menu_File_SYX_SaveAs, Menu_Edit_Undo, Menu_Tone_Random, Menu_Tone_Name})
         EXPECT_TRUE(Menu(id).chosen.Filled()) << Menu(id).name;
-    for (const Menu_Id id : {Menu_File_SYX_Open, Menu_File_SYX_SaveAs})
-        EXPECT_FALSE(Menu(id).chosen.Filled()) << Menu(id).name;
-    File_Commands_Install();
-    for (const Menu_Id id : {Menu_File_SYX_Open, Menu_File_SYX_SaveAs})
-        EXPECT_TRUE(Menu(id).chosen.Filled()) << Menu(id).name;
-}
-
-TEST_F(Menu_Of_Tones, saves_nothing_without_a_file_name_while_there_is_no_file_window) {
-    Tone_Saved = Flag_16::False;
-    Menu(Menu_File_SYX_Save).chosen();
-    EXPECT_EQ(Tone_Saved, Flag_16::False);
-    EXPECT_TRUE(Boxes.empty());
 }

@@ -23,6 +23,7 @@ const std::map<std::string, int> Floors = {
     {"panels",     5},
     {"filedlg",    6},
     {"help",       6},
+    {"oscwin",     6},
     {"seqwin",     6},
     {"setup",      6},
     {"tname",      6},

@@ -1,5 +1,7 @@
 #include "synth/random_tone.h"
 
+#include <random>
+
 #include "desk/menus.h"
 #include "desk/timers.h"
 #include "desk/windows.h"
@@ -78,6 +80,14 @@ TEST_F(Random, of_its_own_numbers_keeps_below_127_and_differs_from_tone_to_tone)
         }
     }
     for (std::size_t value = 0; value < seen.size(); ++value) EXPECT_TRUE(seen[value]) << value;
+}
+
+TEST_F(Random, does_not_begin_every_run_with_the_same_tone) {
+    std::mt19937 unseeded;
+    std::array<int, 49> same = {};
+    for (int& value : same) value = static_cast<int>(static_cast<double>(unseeded()) / 4294967296.0 * 127);
+    Tone_Random();
+    EXPECT_FALSE(std::equal(same.begin() + 1, same.end(), Tone_Data.begin() + 11));
 }
 
 TEST_F(Random, is_called_random_and_its_patch_parameters_are_those_of_a_new_tone) {

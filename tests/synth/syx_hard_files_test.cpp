@@ -108,6 +108,56 @@ TEST_F(SYX_Loaded, replaced_by_a_save_while_it_is_read_is_read_on) {
     Expect_Tone_2();
 }
 
+// -- hard names ------------------------------------------------------------------------------------------
+
+namespace {
+
+// A path of more than 300 characters, none of whose names is too long.
+std::string Long_Path() {
+    std::string path = Path(std::string(120, 'a'));
+    std::filesystem::create_directory(path);
+    path += "/" + std::string(120, 'b');
+    std::filesystem::create_directory(path);
+    return path + "/" + std::string(90, 'c') + ".syx";
+}
+
+}  // namespace
+
+TEST_F(SYX_Loaded, and_saved_under_names_with_blanks_accents_signs_and_300_characters) {
+    std::filesystem::create_directory(Path("Meine T\u00f6ne"));
+    for (const std::string& path :
+         {Path("Meine T\u00f6ne/\u00c9t\u00e9 no 1.syx"), Path("100% R&B [*].syx"), Path("\u5f26.syx"),
+          Path("two\nlines.syx"), Path("\xFF\xFE.syx"), Path("bare"), Path(".syx"), Long_Path()}) {
+        Tone_Data.fill(0);
+        Write(path, Bytes(Tone_1 + Patch_1));
+        SYX_Load(path, "Open");
+        Expect_Tone_1();
+        EXPECT_EQ(Tone_File_Name, path);
+        EXPECT_EQ(Tone_File_Short, std::filesystem::path(path).filename().string());
+        EXPECT_EQ(Recent_Tone(1), path);
+        EXPECT_EQ(Menu(Menu_File_SYX_1).caption, "&1 " + path);
+        Tone_Data[58] = 1;
+        SYX_Save();
+        EXPECT_EQ(Read_Hex(path).substr(65 * 3, 5), "01 F7");
+        Tone_Data.fill(0);
+        SYX_Load(Recent_Tone(1), "Open");
+        EXPECT_EQ(Tone_Data[57], 0x3A) << path;
+    }
+    EXPECT_TRUE(Boxes.empty());
+}
+
+TEST_F(SYX_Loaded, under_a_name_of_300_characters_is_no_file_and_cannot_be_saved) {
+    Tone_File_Name = Path(std::string(300, 'n'));
+    SYX_Load(Tone_File_Name, "Open");
+    Expect_Old_Tone();
+    EXPECT_TRUE(Boxes.empty());
+    Tone_Saved = Flag_16::False;
+    Expect_Box("Error 36: File name too long");
+    SYX_Save();
+    EXPECT_EQ(Tone_Saved, Flag_16::False);
+    EXPECT_EQ(Recent_Tone(1), "");
+}
+
 // -- large files -----------------------------------------------------------------------------------------
 
 namespace {

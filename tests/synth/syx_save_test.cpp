@@ -94,6 +94,22 @@ TEST_F(SYX_Saved, carries_the_present_channel) {
     EXPECT_EQ(SYX_Image[70], 15);
 }
 
+TEST_F(SYX_Saved, is_these_89_bytes_on_channel_10_and_16) {
+    const std::string bytes =
+        "01 02 03 04 05 06 07 08 09 0A "
+        "0B 0C 0D 0E 0F 10 11 12 13 14 15 16 17 18 19 1A 1B 1C 1D 1E 1F 20 21 22 23 24 "
+        "25 26 27 28 29 2A 2B 2C 2D 2E 2F 30 31 32 33 34 35 36 37 38 39 3A 3B ";
+    const std::string pairs = "00 70 01 71 02 72 03 73 04 74 05 75 06 76 F7";
+    MIDI_Channel = 10;
+    SYX_Save();
+    EXPECT_EQ(Read_Hex(Path("x.syx")),
+              "F0 41 35 09 21 20 01 " + bytes + "F7 F0 41 36 09 21 30 01 " + pairs);
+    MIDI_Channel = 16;
+    SYX_Save();
+    EXPECT_EQ(Read_Hex(Path("x.syx")),
+              "F0 41 35 0F 21 20 01 " + bytes + "F7 F0 41 36 0F 21 30 01 " + pairs);
+}
+
 TEST_F(SYX_Saved, under_the_mks_70_is_a_jx_8p_file_and_the_headers_come_back) {
     Synthesizer = "MKS-70";
     SYX_Save();
@@ -127,6 +143,16 @@ TEST_F(SYX_Saved, over_a_longer_file_keeps_the_longer_files_tail) {
     Write(Path("x.syx"), std::string(89, 'x') + "the tail");
     SYX_Save();
     EXPECT_EQ(Read_Hex(Path("x.syx")), File_Of_89 + " " + Hex("the tail"));
+}
+
+TEST_F(SYX_Saved, over_a_bank_replaces_its_first_tone_and_the_next_is_asked_about) {
+    MIDI_Autosend = 0;
+    Write(Path("x.syx"), Bytes(Tone_2 + Patch_2 + Tone_1));
+    SYX_Save();
+    const auto tone = Tone_Data;
+    Answer_With("File contains another TONE. Load it?", Answer::No);
+    SYX_Load(Path("x.syx"), "Soundcheck");
+    EXPECT_EQ(Tone_Data, tone);
 }
 
 TEST_F(SYX_Saved, over_a_shorter_file_is_whole) {
@@ -236,11 +262,4 @@ TEST_F(SYX_Saved, under_the_alpha_juno_is_what_its_room_gives) {
     SYX_Save();
     EXPECT_EQ(Read_Hex(Path("x.syx")), "F0 41 35 00 23 20 01 01 02 F7");
     EXPECT_EQ(Tone_Saved, Flag_16::True);
-}
-
-TEST_F(SYX_Saved, under_the_alpha_juno_does_not_happen_without_its_room) {
-    Synthesizer = "Alpha Juno";
-    SYX_Save();
-    EXPECT_FALSE(std::filesystem::exists(Path("x.syx")));
-    EXPECT_EQ(Tone_Saved, Flag_16::False);
 }

@@ -2,9 +2,12 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <filesystem>
+#include <fstream>
 
 #include "desk/ansi_qt.h"
 #include "desk/menus.h"
+#include "desk/recent.h"
 #include "desk/windows.h"
 #include "midi/out.h"
 #include "panels/editor.h"
@@ -36,7 +39,7 @@ class Frame : public Screen {
 
 TEST_F(Frame, shows_the_menus_that_have_a_function) {
     Start();
-    EXPECT_EQ(Bar(), (QStringList{"&File", "&Edit", "&MIDI", "&Tone", "&Windows"}));
+    EXPECT_EQ(Bar(), (QStringList{"&File", "&Edit", "&MIDI", "&Tone", "&Windows", "&Help"}));
     EXPECT_TRUE(Entry("Menu_File_Exit")->isVisible());
     EXPECT_TRUE(Entry("Menu_MIDI_Setup")->isVisible());
     EXPECT_TRUE(Entry("Menu_MIDI_CloseOutput")->isVisible());
@@ -49,10 +52,25 @@ TEST_F(Frame, shows_the_menus_that_have_a_function) {
 
 TEST_F(Frame, shows_an_entry_as_soon_as_it_has_a_function) {
     Start();
-    EXPECT_FALSE(Entry("Menu_MIDI_Osc")->isVisible());
-    Menu(Menu_MIDI_Osc).chosen = [] {};
+    EXPECT_FALSE(Entry("Menu_Help_About")->isVisible());
+    Menu(Menu_Help_About).chosen = [] {};
     window_->Show_Changes();
-    EXPECT_TRUE(Entry("Menu_MIDI_Osc")->isVisible());
+    EXPECT_TRUE(Entry("Menu_Help_About")->isVisible());
+}
+
+TEST_F(Frame, stops_a_running_sequencer_when_the_submenu_of_tone_files_opens) {
+    Start();
+    Seq_Running = Flag_8::True;
+    Seq_Pos = 5;
+    auto* file = window_->findChild<QAction*>("Menu_File")->menu();
+    file->popup(window_->mapToGlobal(QPoint(0, 0)));
+    EXPECT_EQ(Seq_Running, Flag_8::True) << "not by the menu around it";
+    file->setActiveAction(Entry("Menu_File_SYX"));
+    QTest::keyClick(file, Qt::Key_Right);
+    EXPECT_TRUE(Entry("Menu_File_SYX")->menu()->isVisible());
+    EXPECT_EQ(Seq_Running, Flag_8::False);
+    EXPECT_EQ(Seq_Pos, 0);
+    file->hide();
 }
 
 TEST_F(Frame, draws_a_line_for_a_separator_and_no_text) {
@@ -83,6 +101,35 @@ TEST_F(Frame, gives_a_hidden_or_disabled_entry_no_shortcut) {
     window_->Show_Changes();
     Shortcut(Qt::Key_T);
     EXPECT_TRUE(Sent().empty());
+}
+
+TEST_F(Frame, shows_a_recent_file_s_path_as_it_stands) {
+    std::filesystem::create_directory(Test_Folder() + "/R&B");
+    const std::string path = Test_Folder() + "/R&B/a&&b T\u00f6ne.syx";
+    std::ofstream{path};
+    Start();
+    Guarded_Event([&path] { Recent_Tone_Add(path); });
+    const QString shown = QString::fromStdString(Test_Folder()) + "/R&&B/a&&&&b T\u00f6ne.syx";
+    EXPECT_EQ(Entry("Menu_File_SYX_1")->text(), "&1 " + shown);
+    EXPECT_TRUE(Entry("Menu_File_SYX_1")->isVisible());
+}
+
+TEST_F(Frame, gives_no_entry_its_shortcut_while_a_dialog_is_open) {
+    static int chosen = 0;
+    for (const Menu_Id id : {Menu_File_SYX_New, Menu_File_Exit, Menu_Tone_Random, Menu_Tone_Patch}) {
+        Menu(id).chosen = [] { ++chosen; };
+    }
+    Start();
+    Entry("Menu_Tone_Name")->trigger();
+    QWidget* field = Widget("TName_Tone_Name");
+    for (const Qt::Key key : {Qt::Key_N, Qt::Key_X, Qt::Key_R, Qt::Key_P}) {
+        QTest::keyClick(field, key, Qt::ControlModifier);
+        Shortcut(key);
+    }
+    EXPECT_EQ(chosen, 0);
+    QTest::keyClick(Widget("TName"), Qt::Key_Escape);
+    for (const Qt::Key key : {Qt::Key_N, Qt::Key_X, Qt::Key_R, Qt::Key_P}) Shortcut(key);
+    EXPECT_EQ(chosen, 4) << "and each has it back behind the dialog";
 }
 
 TEST_F(Frame, lists_the_windows_inside_it_and_brings_one_to_the_front) {

@@ -1,4 +1,4 @@
-// The panel's printing with its real face: nothing overlaps, nothing lies under a thumb.
+// The panels' printing with its real face: nothing overlaps, nothing lies under a thumb.
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QRawFont>
@@ -7,6 +7,8 @@
 #include "desk/windows.h"
 #include "panels/editor.h"
 #include "panels/editor_printing.h"
+#include "panels/juno_panel.h"
+#include "panels/juno_printing.h"
 #include "panels/pictures_qt.h"
 #include "windows/screen.h"
 
@@ -17,9 +19,55 @@ struct Placed {
     QRectF ink;
 };
 
-std::vector<Placed> Placed_Texts() {
+// A panel's printing, and where its controls' pictures may ever stand.
+struct Printed_Panel {
+    Printing printing;
+    std::vector<std::pair<std::string, QRectF>> reaches;
+};
+
+QRectF Thumb_Reach_Of(int left, int top_row, int bottom_row) {
+    return {left + 0.0, top_row + 2.0, 16, bottom_row - top_row + 12.0};
+}
+
+Printed_Panel The_Editor() {
+    Printed_Panel panel = {Editor_Printing(), {}};
+    for (const Editor_Row& row : Editor_Table) {
+        const QRectF knob(row.left + 2.0, row.top_row + 0.0, 24, 24);
+        panel.reaches.emplace_back(
+            row.control, Is_Knob(row.type) ? knob : Thumb_Reach_Of(row.left, row.top_row, row.bottom_row));
+    }
+    return panel;
+}
+
+Printed_Panel The_Juno() {
+    Printed_Panel panel = {Juno_Printing(), {}};
+    for (const Juno_Row& row : Juno_Table) {
+        const int highest = row.type == Juno_Type::Slider ? 127 : row.positions - 1;
+        const int far_row = row.placed_row - Juno_Rise(row, highest);
+        panel.reaches.emplace_back(
+            row.control, Thumb_Reach_Of(row.left, std::min(row.row, far_row), std::max(row.row, far_row)));
+    }
+    return panel;
+}
+
+std::vector<Printed_Panel> Both_Panels() {
+    return {The_Editor(), The_Juno()};
+}
+
+// Fields, buttons and decorations.
+std::vector<QRectF> Other_Places(const Panel& panel) {
+    std::vector<QRectF> places;
+    for (const Control* control : panel.controls) {
+        const bool drawn = control->picture.store != Picture_Store::None || control->focusable;
+        if (*control->kind == '\0' && control->parent == nullptr && drawn)
+            places.emplace_back(control->left, control->top, control->width, control->height);
+    }
+    return places;
+}
+
+std::vector<Placed> Placed_Texts(const Printing& printing) {
     std::vector<Placed> placed;
-    for (const Print_Text& text : Editor_Printing().texts) {
+    for (const Print_Text& text : printing.texts) {
         const QFontMetricsF metrics(Printing_Font(text.size));
         const QString letters = QString::fromStdString(text.text);
         const double width = metrics.horizontalAdvance(letters);
@@ -31,10 +79,16 @@ std::vector<Placed> Placed_Texts() {
     return placed;
 }
 
-// Where a control's picture may ever stand.
-QRectF Reach(const Editor_Row& row) {
-    if (Is_Knob(row.type)) return {row.left + 2.0, row.top_row + 0.0, 24, 24};
-    return {row.left + 0.0, row.top_row + 2.0, 16, row.bottom_row - row.top_row + 12.0};
+// The drawings at the positions of switches.
+std::vector<QRectF> Symbols(const Printing& printing) {
+    std::vector<QRectF> symbols;
+    for (const Print_Line& line : printing.lines) {
+        if (line.closed || line.points.size() < 4 || line.ink != Ink::Print) continue;
+        QPolygonF points;
+        for (const Print_Point& point : line.points) points << QPointF(point.x, point.y);
+        symbols.push_back(points.boundingRect().adjusted(-0.5, -0.5, 0.5, 0.5));
+    }
+    return symbols;
 }
 
 }  // namespace
@@ -42,32 +96,55 @@ QRectF Reach(const Editor_Row& row) {
 using Printed = Screen;
 
 TEST_F(Printed, texts_do_not_overlap) {
-    const std::vector<Placed> placed = Placed_Texts();
-    for (std::size_t a = 0; a < placed.size(); ++a) {
-        for (std::size_t b = a + 1; b < placed.size(); ++b) {
-            EXPECT_FALSE(placed[a].ink.intersects(placed[b].ink))
-                << placed[a].text << " over " << placed[b].text << " at " << placed[a].ink.x() << ", "
-                << placed[a].ink.y();
+    for (const Printed_Panel& panel : Both_Panels()) {
+        const std::vector<Placed> placed = Placed_Texts(panel.printing);
+        for (std::size_t a = 0; a < placed.size(); ++a) {
+            for (std::size_t b = a + 1; b < placed.size(); ++b) {
+                EXPECT_FALSE(placed[a].ink.intersects(placed[b].ink))
+                    << placed[a].text << " over " << placed[b].text << " at " << placed[a].ink.x() << ", "
+                    << placed[a].ink.y();
+            }
         }
     }
 }
 
 TEST_F(Printed, texts_lie_inside_the_panel_and_clear_of_every_control) {
-    for (const Placed& text : Placed_Texts()) {
-        EXPECT_TRUE(QRectF(0, 0, 528, 456).contains(text.ink)) << text.text;
-        for (const Editor_Row& row : Editor_Table) {
-            EXPECT_FALSE(text.ink.intersects(Reach(row))) << text.text << " under " << row.control;
+    Start();
+    for (const Printed_Panel& panel : Both_Panels()) {
+        for (const Placed& text : Placed_Texts(panel.printing)) {
+            EXPECT_TRUE(QRectF(0, 0, 528, 456).contains(text.ink)) << text.text;
+            for (const auto& [control, reach] : panel.reaches)
+                EXPECT_FALSE(text.ink.intersects(reach)) << text.text << " under " << control;
         }
-        for (const QRectF other : {QRectF(181, 150, 110, 50), QRectF(197, 202, 79, 14),
-                                   QRectF(190, 221, 95, 22), QRectF(105, 291, 121, 27)}) {
-            EXPECT_FALSE(text.ink.intersects(other)) << text.text;
+    }
+    for (const auto& [panel, printing] :
+         {std::pair{&Editor_Panel, Editor_Printing()}, {&Juno_Panel, Juno_Printing()}}) {
+        EXPECT_EQ(Other_Places(*panel).size(), 6U);
+        for (const Placed& text : Placed_Texts(printing)) {
+            for (const QRectF& place : Other_Places(*panel))
+                EXPECT_FALSE(text.ink.intersects(place)) << text.text;
+        }
+    }
+}
+
+TEST_F(Printed, symbols_lie_clear_of_texts_and_controls) {
+    for (const Printed_Panel& panel : Both_Panels()) {
+        const std::vector<Placed> texts = Placed_Texts(panel.printing);
+        const std::vector<QRectF> symbols = Symbols(panel.printing);
+        EXPECT_GT(symbols.size(), 10U);
+        for (const QRectF& symbol : symbols) {
+            for (const Placed& text : texts)
+                EXPECT_FALSE(symbol.intersects(text.ink)) << text.text << " at " << symbol.x();
+            for (const auto& [control, reach] : panel.reaches)
+                EXPECT_FALSE(symbol.intersects(reach)) << control;
         }
     }
 }
 
 TEST_F(Printed, texts_are_large_enough_to_read) {
-    for (const Placed& text : Placed_Texts()) {
-        EXPECT_GE(text.ink.height(), 5) << text.text;
+    for (const Printed_Panel& panel : Both_Panels()) {
+        for (const Placed& text : Placed_Texts(panel.printing))
+            EXPECT_GE(text.ink.height(), 5) << text.text;
     }
 }
 
@@ -76,23 +153,29 @@ TEST_F(Printed, texts_are_in_the_face_that_comes_with_the_program) {
 }
 
 TEST_F(Printed, rules_lie_clear_of_every_control) {
-    for (const Print_Line& line : Editor_Printing().lines) {
-        if (!line.closed) continue;
-        for (std::size_t index = 0; index < line.points.size(); ++index) {
-            const Print_Point from = line.points[index];
-            const Print_Point to = line.points[(index + 1) % line.points.size()];
-            const QRectF edge =
-                QRectF(QPointF(from.x, from.y), QPointF(to.x, to.y)).normalized().adjusted(0, 0, 0.1, 0.1);
-            for (const Editor_Row& row : Editor_Table)
-                EXPECT_FALSE(edge.intersects(Reach(row))) << row.control;
+    for (const Printed_Panel& panel : Both_Panels()) {
+        for (const Print_Line& line : panel.printing.lines) {
+            if (!line.closed) continue;
+            for (std::size_t index = 0; index < line.points.size(); ++index) {
+                const Print_Point from = line.points[index];
+                const Print_Point to = line.points[(index + 1) % line.points.size()];
+                const QRectF edge = QRectF(QPointF(from.x, from.y), QPointF(to.x, to.y))
+                                        .normalized()
+                                        .adjusted(0, 0, 0.1, 0.1);
+                for (const auto& [control, reach] : panel.reaches)
+                    EXPECT_FALSE(edge.intersects(reach)) << control;
+            }
         }
     }
 }
 
 TEST_F(Printed, pictures_are_valid_and_sharp_at_every_ratio) {
     for (const qreal ratio : {1.0, 1.25, 1.5, 2.0}) {
-        for (const auto& [store, items] :
-             {std::pair{Picture_Store::Buttons, 11}, {Picture_Store::LED, 4}}) {
+        for (const auto& [store, items] : {std::pair{Picture_Store::Buttons, 11},
+                                           {Picture_Store::LED, 6},
+                                           {Picture_Store::FD_Symbols, 3},
+                                           {Picture_Store::FD_Icons, 3},
+                                           {Picture_Store::FD_SEQ_Pics, 4}}) {
             for (int item = 0; item < items; ++item) {
                 const Picture picture = Picture_Of(store, item);
                 const QPixmap& pixmap = Picture_Pixmap(picture, ratio);
