@@ -65,11 +65,12 @@ INTERVAL = 62
 lines = open(sys.argv[1]).read().split("\n")
 times = [int(line) / 1000 for line in lines if line.isdigit()]
 others = next(line.split()[0] for line in lines if line.endswith("others"))
-late = [time - step * INTERVAL for step, time in enumerate(times)]
+steps = [round((time - times[0]) / INTERVAL) for time in times]
+late = [time - step * INTERVAL for time, step in zip(times, steps)]
 middle = statistics.median(late)
 off = [abs(difference - middle) for difference in late]
 inside = sum(difference <= 2 for difference in off)
 print(f"{len(off)} steps at {INTERVAL} ms, with {others} other messages beside their first notes")
 print(f"within 2 ms of their due time: {100 * inside / len(off):.2f} %, the furthest {max(off):.1f} ms off")
-print(f"the last step against the first: {late[-1] - late[0]:+.1f} ms")
+print(f"the last step against the first: {late[-1] - late[0]:+.1f} ms, steps not heard: {steps[-1] + 1 - len(steps)}")
 EOF
