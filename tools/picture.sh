@@ -149,6 +149,7 @@ play_sequencer() {
 
 # The Patch window opens at the upper left corner of the panel.
 play_patch() {
+    menu=21
     xdotool key ctrl+p
     sleep 0.5
     touch_control 28 120 Page_Up 4  # portamento time
@@ -158,7 +159,42 @@ play_patch() {
     touch_control 159 84 Page_Up 0  # unison 2
     touch_control 229 39 Page_Up 0  # vibrato
     touch_control 175 150 Page_Up 1 # detune
-    area="296 196 0 22"
+    area="296 196 0 $menu"
+}
+
+# The help window stands in the middle of the screen. Opens a page by its letter in the menu.
+open_help() {
+    xdotool key alt+h
+    sleep 0.4
+    xdotool key "$1"
+    sleep 0.8
+    area="640 404 $(((1280 / scale - 640) / 2)) $(((1100 / scale - 404) / 2))"
+}
+
+# A place in the help window.
+help_at() {
+    local width height left top
+    read -r width height left top <<<"$area"
+    echo $(((left + $1) * scale)) $(((top + $2) * scale))
+}
+
+play_help_about() {
+    open_help a
+    xdotool mousemove $(help_at 440 58) click 1
+}
+
+play_help_howto() {
+    open_help h
+    xdotool mousemove $(help_at 58 187) click 1 key Up Up
+    xdotool mousemove $(help_at 116 170) click 1 key Page_Up
+    xdotool mousemove $(help_at 236 172) click 1
+    xdotool mousemove $(help_at 308 176) click 1
+    xdotool mousemove $(help_at 188 212) click 1 key Page_Up Page_Up Page_Up Page_Up Page_Up
+}
+
+play_help_search() {
+    open_help s
+    xdotool type matr
 }
 
 # Shoots at a device pixel ratio, behind what is played, into a file: the main window, or the area (width,
@@ -185,6 +221,9 @@ shoot 2 play_panel "$docs/panel@2x.png"
 shoot 2 play_oscillator "$docs/oscillator.png"
 shoot 2 play_sequencer "$docs/sequencer.png"
 shoot 1 play_patch "$docs/patch.png"
+shoot 2 play_help_about "$docs/help_about.png"
+shoot 2 play_help_howto "$docs/help_howto.png"
+shoot 2 play_help_search "$docs/help_search.png"
 printf 'Synthesizer=Alpha Juno\n' >>"$folder/Tonebench.INI"
 shoot 2 play_juno "$docs/juno.png"
 shoot 2 play_envelope "$docs/juno_envelope.png"
@@ -214,7 +253,7 @@ xdotool key ctrl+o
 sleep 0.5
 xdotool mousemove 100 120 click 1 # the third file
 sleep 2.5
-import -window root -crop 541x445+0+0 +repage "$docs/files_tones.png"
+import -window root -crop 540x444+0+0 +repage "$docs/files_tones.png"
 xdotool key Escape
 sleep 0.5
 for key in alt+f q o; do
@@ -224,4 +263,4 @@ done
 sleep 0.5
 xdotool mousemove 100 80 click 1
 sleep 0.5
-import -window root -crop 541x445+0+0 +repage "$docs/files_sequences.png"
+import -window root -crop 540x444+0+0 +repage "$docs/files_sequences.png"

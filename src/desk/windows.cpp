@@ -28,6 +28,7 @@ Window Sequencer = {.name = "Sequencer", .inside = true};
 Window Oscillator = {.name = "Oscillator", .inside = true};
 Window MIDI_Setup = {.name = "MIDI_Setup"};
 Window TName = {.name = "TName"};
+Window Help = {.name = "Help"};
 Window File_Dlg = {.name = "File_Dlg"};
 Window Input_Dlg = {.name = "Input_Dlg"};
 

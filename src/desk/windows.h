@@ -52,6 +52,7 @@ extern Window Sequencer;
 extern Window Oscillator;
 extern Window MIDI_Setup;
 extern Window TName;
+extern Window Help;
 extern Window File_Dlg;
 extern Window Input_Dlg;
 

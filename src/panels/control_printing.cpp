@@ -43,6 +43,7 @@ void Print_Group(Printing& printing, const Panel_Group& group) {
 }
 
 void Print_Caption(Printing& printing, const char* caption, double middle, int top_row) {
+    if (*caption == '\0') return;
     printing.texts.push_back(
         {caption, {middle, top_row - Caption_Gap}, Align::Centre, Caption_Size, Ink::Print});
 }

@@ -50,7 +50,7 @@ struct Panel_Group {
 };
 void Print_Group(Printing& printing, const Panel_Group& group);
 
-// The name above a thumb's highest row.
+// The name above a thumb's highest row; "" prints nothing.
 void Print_Caption(Printing& printing, const char* caption, double middle, int top_row);
 // The same above a switch's thumb and the names beside it.
 void Print_Switch_Caption(Printing& printing, const char* caption, int left, int top_row,

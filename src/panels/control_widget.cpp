@@ -3,6 +3,7 @@
 #include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
 #include <string_view>
 
 #include "desk/ansi_qt.h"
@@ -59,7 +60,7 @@ Control_Widget::Control_Widget(Control& record, const Panel& panel, QWidget* par
     setObjectName(record.name);
     // As a paragraph, so that a long text is broken into lines.
     if (*record.help != '\0') setToolTip(QString("<p>%1</p>").arg(QString(record.help).toHtmlEscaped()));
-    setFocusPolicy(record.focusable ? Qt::StrongFocus : Qt::NoFocus);
+    Show_Focus_Policy();
     // A symbol or a decoration lets the pointer through to what it lies on.
     setAttribute(Qt::WA_TransparentForMouseEvents, !record.focusable);
     setGeometry(record.left, record.top, record.width, record.height);
@@ -72,10 +73,16 @@ QString Control_Widget::Spoken() const {
     return value.isEmpty() ? name : name + ", " + value;
 }
 
+void Control_Widget::Show_Focus_Policy() {
+    const Qt::FocusPolicy way = record_.tab_stop ? Qt::StrongFocus : Qt::ClickFocus;
+    setFocusPolicy(record_.focusable ? way : Qt::NoFocus);
+}
+
 void Control_Widget::Show_Changes() {
     setGeometry(record_.left, record_.top, record_.width, record_.height);
     if (isEnabledTo(parentWidget()) != record_.enabled) setEnabled(record_.enabled);
     if (shown_.visible != record_.visible) setVisible(record_.visible);
+    if (shown_.tab_stop != record_.tab_stop) Show_Focus_Policy();
     if (!Same_Look(shown_, record_)) update();
     const bool moved =
         shown_.top != record_.top || shown_.left != record_.left || shown_.text != record_.text;
@@ -86,9 +93,10 @@ void Control_Widget::Show_Changes() {
     shown_ = record_;
 }
 
-// A control without a picture that takes no focus either is nothing to see.
+// A control without a picture shows its text; one that has none and takes no focus either is nothing to
+// see.
 bool Control_Widget::Is_Field() const {
-    return record_.picture.store == Picture_Store::None && record_.focusable;
+    return record_.picture.store == Picture_Store::None && (record_.focusable || !record_.text.empty());
 }
 
 void Control_Widget::paintEvent(QPaintEvent*) {
@@ -96,10 +104,11 @@ void Control_Widget::paintEvent(QPaintEvent*) {
     if (Is_Field()) {
         Paint_Field(painter);
     } else {
-        // A control may be narrower than its picture: then it shows the middle of it.
+        // A control may be narrower than its picture: then it shows the middle of it. A wider one has a
+        // caption of its own beside the picture.
         const QPixmap& picture = Picture_Pixmap(record_.picture, devicePixelRatioF());
         const double aside = (width() - picture.deviceIndependentSize().width()) / 2;
-        painter.drawPixmap(QPointF(picture.isNull() ? 0 : aside, 0), picture);
+        painter.drawPixmap(QPointF(std::min(aside, 0.0), 0), picture);
     }
     // The moving controls show the focus by blinking; the others need a mark of their own.
     if (hasFocus() && *record_.kind == '\0') {
@@ -110,8 +119,8 @@ void Control_Widget::paintEvent(QPaintEvent*) {
 
 // The instrument's display: lit segments on a dark glass, the unlit ones faintly behind them.
 void Control_Widget::Paint_Field(QPainter& painter) const {
-    constexpr int Cells = 10;
     constexpr int Cell_Width = 12;
+    const int cells = (width() - 1) / Cell_Width;
     const QColor glass(0x06, 0x12, 0x12);
     const QColor lit(0x6c, 0xff, 0xe2);
     const QColor unlit(0x14, 0x2e, 0x2c);
@@ -120,7 +129,7 @@ void Control_Widget::Paint_Field(QPainter& painter) const {
     painter.setBrush(glass);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
 
-    const QString text = From_ANSI(record_.text).left(Cells);
+    const QString text = From_ANSI(record_.text).left(cells);
     if (record_.font.empty()) {
         QFont font = Printing_Font(16);
         painter.setFont(font);
@@ -132,7 +141,7 @@ void Control_Widget::Paint_Field(QPainter& painter) const {
     font.setPixelSize(20);
     painter.setFont(font);
     const QChar all_segments(0xE000);
-    for (int cell = 0; cell < Cells; ++cell) {
+    for (int cell = 0; cell < cells; ++cell) {
         const QRect place(cell * Cell_Width + 1, 0, Cell_Width, height());
         painter.setPen(unlit);
         painter.drawText(place, Qt::AlignCenter | Qt::TextDontClip, QString(all_segments));
@@ -160,7 +169,12 @@ void Control_Widget::mousePressEvent(QMouseEvent* event) {
 
 void Control_Widget::mouseMoveEvent(QMouseEvent* event) {
     if (event->buttons() == Qt::NoButton) return;
-    Guarded_Event([&] { panel_.events.pointer_moved(record_, event->position().y()); });
+    Guarded_Event([&] {
+        panel_.events.pointer_moved(record_, event->position().y());
+        if (panel_.events.pointer_moved_across != nullptr) {
+            panel_.events.pointer_moved_across(record_, event->position().x());
+        }
+    });
 }
 
 void Control_Widget::mouseReleaseEvent(QMouseEvent* event) {

@@ -30,6 +30,7 @@ class Control_Widget : public QWidget {
     bool Is_Field() const;
     void Take_Focus();
     void Paint_Field(QPainter& painter) const;
+    void Show_Focus_Policy();
 
     Control& record_;
     const Panel& panel_;

@@ -41,6 +41,7 @@ struct Control {
     bool focusable = false;
     bool takes_tab =
         false;  // the TAB key is a key like any other here, and does not move the focus by itself
+    bool tab_stop = true;  // TAB stops here; else the pointer and the rules alone give the focus
     bool visible = true;
     bool enabled = true;
     std::int16_t help_context = 0;

@@ -2,13 +2,12 @@
 // handlers only pass the constants of the control's row on.
 #include "panels/editor.h"
 #include "panels/steps.h"
+#include "panels/tune_knob.h"
 #include "synth/messages.h"
 #include "synth/tone.h"
 #include "synth/tuning.h"
 
 namespace {
-
-constexpr double Rows_A_Semitone = 4;  // of a drag
 
 std::size_t Parameter_Of(const Editor_Row& row) {
     return static_cast<std::size_t>(row.parameter);
@@ -20,9 +19,7 @@ void Knob_Key(const Editor_Row& row, int key) {
     const std::size_t parameter = Parameter_Of(row);
     std::uint8_t byte = 0;
     if (row.type == Control_Type::Tune_Knob) {
-        Panel_Scratch_Real = Tune_Step(Panel_Tune_From_Byte(Tone_Byte(parameter)), key);
-        byte = Panel_Tune_To_Byte(Panel_Scratch_Real);
-        Panel_Knob_Dot(Dot_Centre_Left, Dot_Centre_Top, Degrees_A_Semitone);
+        byte = Tune_Knob_Key(Tone_Byte(parameter), key);
     } else {
         byte = Narrow<std::uint8_t>(Fine_Step(Tone_Byte(parameter), key));
         Panel_Scratch_Real = Panel_Fine_From_Byte(byte);
@@ -35,11 +32,7 @@ void Knob_Key(const Editor_Row& row, int key) {
 void Knob_Drag(const Editor_Row& row, double pointer_row) {
     const std::size_t parameter = Parameter_Of(row);
     if (row.type == Control_Type::Tune_Knob) {
-        const double semitones =
-            Panel_Tune_From_Byte(Tone_Byte(parameter)) + Panel_Knob_Movement(pointer_row / Rows_A_Semitone);
-        Panel_Scratch_Real = Clamped(semitones, -12, 12);
-        Panel_Knob_Dot(Dot_Centre_Left, Dot_Centre_Top, Degrees_A_Semitone);
-        Editor_Set_Value(parameter, Panel_Tune_To_Byte(Panel_Scratch_Real));
+        Editor_Set_Value(parameter, Tune_Knob_Drag(Tone_Byte(parameter), pointer_row));
     } else {
         const double byte =
             Clamped(Tone_Byte(parameter) + Panel_Knob_Movement(pointer_row), 0, Highest_Value);

@@ -13,7 +13,6 @@
 namespace {
 
 constexpr double Slider_Page = 16;
-constexpr int Full_Scale = 99;  // the instrument's own display shows 0 to 99
 
 // The three-position switches; their highest position starts at 64 and is as far as keys go.
 constexpr double Three_Way_Ceiling = 64;
@@ -44,7 +43,7 @@ int Band(std::uint8_t value) {
 int Switch_Top(std::size_t parameter, int bottom_row) {
     const int band = Band(Tone_Byte(parameter));
     // What no band holds shows at the window's upper edge, off the rail, where it can be seen to be wrong.
-    return band < 4 ? bottom_row - band * Switch_Pitch : 0;
+    return band < 4 ? Band_Top(bottom_row, Tone_Byte(parameter)) : 0;
 }
 
 int Bottom_Row(std::size_t parameter) {
@@ -62,7 +61,7 @@ std::uint8_t Byte_Of(double value) {
 
 bool Editor_Value_Text(std::size_t parameter, std::uint8_t value, std::string& text) {
     if (Is_Slider(parameter)) {
-        text = std::to_string(value * Full_Scale / 127);
+        text = std::to_string(Slider_Shown(value));
     } else if (Is_Tune(parameter)) {
         text = std::to_string(Panel_Tune_From_Byte(value));
     } else if (parameter == Parameter_DCO2_FTune) {
@@ -98,7 +97,7 @@ void Editor_Slider_Drag(int top_row, int bottom_row, std::size_t parameter, doub
 }
 
 void Editor_Slider_Place(int /*top_row*/, int bottom_row, std::size_t parameter) {
-    Set_Active_Top(bottom_row - Tone_Byte(parameter) * Slider_Travel / 127);
+    Set_Active_Top(Slider_Top(bottom_row, Tone_Byte(parameter)));
 }
 
 void Editor_Switch_Key(int top_row, int bottom_row, std::size_t parameter, int key) {
@@ -142,5 +141,5 @@ int Panel_Switch_Top_Lower(std::size_t parameter) {
 }
 
 int Panel_Slider_Top(std::size_t parameter) {
-    return Bottom_Row(parameter) - Tone_Byte(parameter) * Slider_Travel / 127;
+    return Slider_Top(Bottom_Row(parameter), Tone_Byte(parameter));
 }

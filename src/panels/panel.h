@@ -21,6 +21,8 @@ struct Panel_Events {
     void (*clicked)(Control&);  // pressed and released inside
     void (*activated)();
     void (*deactivated)();
+    // As pointer_moved, with the column: for what is moved sideways.
+    void (*pointer_moved_across)(Control&, double column) = nullptr;
 };
 
 // A picture that comes up over a panel and is drawn from line shapes; their ends are pixels in it.

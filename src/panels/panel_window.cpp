@@ -54,6 +54,7 @@ void Panel_Window::Show_Controls() {
 // the focus; it goes back to the control that had it.
 void Panel_Window::Show_Focus() {
     const Control* active = panel_.window->active_control;
+    if (active == nullptr) agreed_focus_ = nullptr;
     Control_Widget* widget = Widget_Of(active);
     if (widget == nullptr || !isEnabled() || !isVisibleTo(window())) return;
     const bool lost = isVisible() && window()->focusWidget() == nullptr;

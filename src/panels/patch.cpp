@@ -51,7 +51,7 @@ void Place(Control& control, const Patch_Row& row) {
     const std::uint8_t value = Patch_Byte(row.number);
     switch (row.type) {
         case Control_Type::Slider:
-            control.top = row.bottom_row - value * Slider_Travel / 127;
+            control.top = Slider_Top(row.bottom_row, value);
             break;
         case Control_Type::Four_Way:
             if (value <= 127) control.top = row.bottom_row - value / 32 * Switch_Pitch;

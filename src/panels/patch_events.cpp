@@ -13,7 +13,6 @@
 namespace {
 
 constexpr double Slider_Page = 10;  // less than on the other panels
-constexpr int Full_Scale = 99;      // the instrument's own display shows 0 to 99
 constexpr double Range_Step = 32;
 constexpr double Portamento_Step = 64;
 
@@ -185,7 +184,7 @@ constinit const Panel_Events Patch_Events = {
 
 bool Patch_Value_Text(std::size_t number, std::uint8_t value, std::string& text) {
     if (number == Patch_Portamento_Time || number == Patch_Pitch_Bend_LFO) {
-        text = std::to_string(value * Full_Scale / 127);
+        text = std::to_string(Slider_Shown(value));
     } else if (number == Patch_UDTune) {
         text = std::to_string(Panel_Fine_From_Byte(value));
     } else {
@@ -220,7 +219,7 @@ void Patch_Slider_Drag(std::size_t number, double row) {
 
 void Patch_Slider_Place(std::size_t number) {
     constexpr int Bottom_Row = 108;
-    Window_Set_Active_Top(Patch, Bottom_Row - Patch_Byte(number) * Slider_Travel / 127);
+    Window_Set_Active_Top(Patch, Slider_Top(Bottom_Row, Patch_Byte(number)));
 }
 
 void Patch_Switch_Drag(double row) {

@@ -58,4 +58,9 @@ bool Toggles(int key);
 double Slider_Dragged(double value, double row);  // the fraction is cut
 double Switch_Dragged(double value, double row);  // rounded, halves to even
 
+// How a slider's value stands in a display: 0 to 99, as on the instrument's own.
+inline constexpr int Slider_Shown(int value) {
+    return value * 99 / 127;
+}
+
 double Clamped(double value, double lowest, double highest);

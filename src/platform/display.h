@@ -8,7 +8,8 @@
 // toolkit scales as a whole (device pixel ratio 1.25, 1.5, 2) counts by its scaled size: 96.
 double Display_Logical_Density();
 
-// Height of the screen in the pixels that windows are placed by.
+// Size of the screen in the pixels that windows are placed by.
+int Display_Width();
 int Display_Height();
 
 // Makes the faces of a font file known to this process. False when the file cannot be used.

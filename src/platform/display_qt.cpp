@@ -19,6 +19,10 @@ double Display_Logical_Density() {
     return QGuiApplication::primaryScreen()->logicalDotsPerInchY();
 }
 
+int Display_Width() {
+    return QGuiApplication::primaryScreen()->geometry().width();
+}
+
 int Display_Height() {
     return QGuiApplication::primaryScreen()->geometry().height();
 }

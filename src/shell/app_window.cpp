@@ -11,6 +11,7 @@
 #include "desk/windows.h"
 #include "filedlg/file_dlg_window.h"
 #include "filedlg/input_dlg_window.h"
+#include "help/help_window.h"
 #include "oscwin/oscillator_window.h"
 #include "panels/editor.h"
 #include "panels/editor_printing.h"
@@ -97,12 +98,19 @@ constexpr Panel_Row Panels[] = {
 };
 
 // The windows over the main one.
+// clang-format off
 constexpr Child_Row Children[] = {
-    {MIDI_Setup, Make<Setup_Window>},    {TName, Make<TName_Window>},
-    {Patch, Make<Patch_Window>},         {Patch_MKS70, Make<MKS_Patch_Window>},
-    {Sequencer, Make<Sequencer_Window>}, {Oscillator, Make<Oscillator_Window>},
-    {File_Dlg, Make<File_Dlg_Window>},   {Input_Dlg, Make<Input_Dlg_Window>},
+    {MIDI_Setup, Make<Setup_Window>},
+    {TName, Make<TName_Window>},
+    {Patch, Make<Patch_Window>},
+    {Patch_MKS70, Make<MKS_Patch_Window>},
+    {Sequencer, Make<Sequencer_Window>},
+    {Oscillator, Make<Oscillator_Window>},
+    {File_Dlg, Make<File_Dlg_Window>},
+    {Input_Dlg, Make<Input_Dlg_Window>},
+    {Help, Make<Help_Window>},
 };
+// clang-format on
 
 }  // namespace
 

@@ -4,6 +4,7 @@
 #include "desk/menus.h"
 #include "desk/timers.h"
 #include "desk/windows.h"
+#include "help/help.h"
 #include "midi/out.h"
 #include "panels/editor.h"
 #include "panels/push_buttons.h"
@@ -63,4 +64,7 @@ void Commands_Install() {
     Menu(Menu_MIDI_Setup).chosen = MIDI_Setup_Chosen;
     Menu(Menu_Tone_Patch).chosen = Tone_Patch_Chosen;
     Menu(Menu_Tone_Send).chosen = Tone_Send_Chosen;
+    Menu(Menu_Help_Howto).chosen = Menu_Help_Howto_Chosen;
+    Menu(Menu_Help_Search).chosen = Menu_Help_Search_Chosen;
+    Menu(Menu_Help_About).chosen = Menu_Help_About_Chosen;
 }

@@ -3,12 +3,15 @@
 #include "desk/timers.h"
 #include "filedlg/file_dlg.h"
 #include "filedlg/input_dlg.h"
+#include "help/help.h"
+#include "help/howto.h"
 #include "oscwin/oscwin.h"
 #include "panels/controls.h"
 #include "panels/editor.h"
 #include "panels/juno_panel.h"
 #include "panels/mks_patch.h"
 #include "panels/patch.h"
+#include "panels/receive_mode.h"
 #include "sequencer/engine.h"
 #include "seqwin/seqwin.h"
 #include "setup/setup.h"
@@ -22,11 +25,14 @@
 #include "shell/window_commands.h"
 #include "synth/juno.h"
 #include "synth/juno_file.h"
+#include "synth/reception.h"
 
 void Program_Wire() {
     Controls_Install();
     Sequencer_Install();
     Editor_Install();
+    Reception_Install();
+    Receive_Mode_Install();
     Patch_Install();
     MKS_Patch_Install();
     Patch_Lamps_Reset = Patch_Lamps_To_First;
@@ -40,6 +46,8 @@ void Program_Wire() {
     File_Dlg_Install();
     Input_Install();
     Osc_Install();
+    Help_Install();
+    Help_Show_Waiting = Howto_Show_Waiting;
     Commands_Install();
     Tone_Commands_Install();
     Sequence_Commands_Install();

@@ -73,7 +73,8 @@ class Files_On_The_Desktop : public Desktop {
     void Press_File(int row) { Click_At(Files_X, First_File_Y + row * Row_Height); }
     // Row 0 of the folder that is shown is the folder itself.
     void Press_Folder(int row) {
-        const auto levels = std::distance(Tones().begin(), Tones().end()) - 1;
+        const std::filesystem::path shown = Tones();
+        const auto levels = std::distance(shown.begin(), shown.end()) - 1;
         Click_At(Folders_X, First_Folder_Y + (static_cast<int>(levels) + row) * Row_Height);
     }
     void Save_As(const std::string& name) {

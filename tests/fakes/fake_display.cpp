@@ -8,6 +8,10 @@ double Display_Logical_Density() {
     return Display.density;
 }
 
+int Display_Width() {
+    return Display.width;
+}
+
 int Display_Height() {
     return Display.height;
 }

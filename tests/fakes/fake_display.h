@@ -6,6 +6,7 @@
 
 struct Fake_Display {
     double density = 96;
+    int width = 1024;
     int height = 768;
     bool font_can_be_added = true;
     int font_remove_error = 0;

@@ -4,6 +4,7 @@
 #include "platform/event_loop.h"
 #include "platform/message_box.h"
 #include "platform/timer.h"
+#include "platform/wake_up.h"
 
 Answer Message_Box(const std::string&, Buttons_Set buttons, Icon, const std::string&) {
     return buttons == Buttons_Set::Ok ? Answer::Ok : Answer::Yes;
@@ -26,6 +27,9 @@ bool Event_Loop_Wait(int) {
 double Display_Logical_Density() {
     return 96;
 }
+int Display_Width() {
+    return 1920;
+}
 int Display_Height() {
     return 1080;
 }
@@ -39,3 +43,6 @@ bool System_Sound_Play(const std::string&) {
     return true;
 }
 void Beep() {}
+
+void Wake_Up_Begin(Hook<void()>) {}
+void Wake_Up_End() {}

@@ -2,6 +2,7 @@
 
 #include <fstream>
 
+#include "panels/juno_panel.h"
 #include "platform/files.h"
 #include "shell/frame.h"
 #include "shell/wiring.h"
@@ -80,5 +81,5 @@ void Key(const std::string& name, int key) {
 }
 
 std::string Shown() {
-    return At("Tone_Name").text;
+    return Played == &Juno_Panel ? Juno_Tone_Name.text : Editor_Tone_Name.text;
 }

@@ -48,5 +48,5 @@ void Release(const std::string& name, Mouse_Button button = Mouse_Button::Left);
 void Click(const std::string& name);  // press, release and click
 void Key(const std::string& name, int key);
 
-// The text of the tone's name display.
+// The text of the tone's name display: the Alpha Juno's while its panel is played on, else Editor's.
 std::string Shown();

@@ -324,8 +324,11 @@ TEST_F(File_Window_On_Screen, switches_a_lamp_by_a_click_on_it_or_on_its_caption
     EXPECT_EQ(MIDI_Autosend, 0);
     EXPECT_FALSE(Widget("FD_SYX_OB_Soundcheck_1")->isEnabled());
     const QImage off = Picture_On(Widget("FD_SYX_CB_Autoplay"));
+    const QRect lamp(3, 3, 8, 8);  // inside the frame that shows the focus
     QTest::mouseClick(Widget("FD_SYX_CB_Autoplay"), Qt::LeftButton, {}, QPoint(7, 7));
-    EXPECT_NE(Picture_On(Widget("FD_SYX_CB_Autoplay")), off);
+    const QImage on = Picture_On(Widget("FD_SYX_CB_Autoplay"));
+    EXPECT_NE(on.copy(lamp), off.copy(lamp)) << "the lamp stands beside its caption";
+    EXPECT_EQ(on.copy(24, 2, 70, 10), off.copy(24, 2, 70, 10));
     EXPECT_TRUE(Widget("FD_SYX_SoundCheck_Note_List")->isEnabled());
 }
 

@@ -39,7 +39,7 @@ class Frame : public Screen {
 
 TEST_F(Frame, shows_the_menus_that_have_a_function) {
     Start();
-    EXPECT_EQ(Bar(), (QStringList{"&File", "&Edit", "&MIDI", "&Tone", "&Windows"}));
+    EXPECT_EQ(Bar(), (QStringList{"&File", "&Edit", "&MIDI", "&Tone", "&Windows", "&Help"}));
     EXPECT_TRUE(Entry("Menu_File_Exit")->isVisible());
     EXPECT_TRUE(Entry("Menu_MIDI_Setup")->isVisible());
     EXPECT_TRUE(Entry("Menu_MIDI_CloseOutput")->isVisible());
@@ -52,6 +52,8 @@ TEST_F(Frame, shows_the_menus_that_have_a_function) {
 
 TEST_F(Frame, shows_an_entry_as_soon_as_it_has_a_function) {
     Start();
+    Menu(Menu_Help_About).chosen = {};
+    window_->Show_Changes();
     EXPECT_FALSE(Entry("Menu_Help_About")->isVisible());
     Menu(Menu_Help_About).chosen = [] {};
     window_->Show_Changes();
