@@ -51,8 +51,12 @@ for row in $(seq 60 4 160) $(seq 160 -4 60); do moves+=(mousemove 446 "$row" sle
 end=$((SECONDS + seconds))
 while [ $SECONDS -lt $end ]; do xdotool "${moves[@]}"; done
 xdotool mouseup 1 key ctrl+x
-sleep 0.5
-xdotool key alt+n 2>/dev/null || true
+for _ in $(seq 10); do # the dragged tone is not saved
+    sleep 0.5
+    kill -0 $program 2>/dev/null || break
+    xdotool key alt+n
+done
+kill $program 2>/dev/null || true
 wait $program 2>/dev/null || true
 
 echo >&4
