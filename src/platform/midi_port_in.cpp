@@ -119,9 +119,9 @@ Port_Result Port_In_Open(int device, Port_Handle& handle) {
     auto input = std::make_unique<Input>();
     const Port_Result result = Connected(*clients, *input, device);
     if (result != Port_Ok) {
-        const std::string words = Port_Words();
+        std::string words = Port_Words();
         (void)Let_Go(std::move(input));
-        return result == Port_Failed ? Port_Failed_With(words) : result;
+        return result == Port_Failed ? Port_Failed_With(std::move(words)) : result;
     }
     In_Port.open = std::move(input);
     handle = In_Port.handle = ++In_Port.last_handle;
