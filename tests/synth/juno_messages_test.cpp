@@ -1,3 +1,4 @@
+#include "desk/menus.h"
 #include "fakes/juno_stage.h"
 #include "midi/in.h"
 #include "midi/out.h"
@@ -142,4 +143,17 @@ TEST_F(Juno_Messages, that_come_in_are_taken_for_the_jx_8ps_and_change_its_hidde
     EXPECT_EQ(Editor_Control("VCF_Res").top, 32);
     EXPECT_EQ(MIDI_Receiving, 0);
     EXPECT_FALSE(Editor.visible);
+}
+
+TEST_F(Juno_Messages, of_the_whole_tone_are_sent_from_the_menu_on_the_channel_of_the_moment) {
+    MIDI_Autosend = 0;
+    MIDI_Channel = 16;
+    Juno_Data.fill(0x55);
+    Tone_Data.fill(0x11);
+    Menu(Menu_Tone_Send).chosen();
+    const Lines sent = Sent();
+    ASSERT_EQ(sent.size(), 1U);
+    EXPECT_EQ(sent[0].substr(0, 26), "F0 41 35 0F 23 20 01 11 11");
+    EXPECT_EQ(sent[0].size(), 83U * 3 - 1);
+    EXPECT_TRUE(Editor_Juno.visible);
 }
