@@ -218,6 +218,19 @@ TEST_F(The_Stairs, mark_a_curve_as_drawn_by_hand_at_the_release) {
     EXPECT_EQ(Presets_Lit(), (Rows{0, 0, 0, 0, 0, 0, 0, 0, 2, 0}));
 }
 
+TEST_F(The_Stairs, are_marked_as_drawn_by_any_release_also_of_a_pointer_that_drew_nothing) {
+    const Rows marked = {0, 0, 0, 0, 0, 0, 0, 0, 2, 0};
+    Osc_Wave_Click(4);
+    Osc_Picture1_MouseDown(Osc_Right_Button, 3, 3);
+    Osc_Picture1_MouseUp();
+    EXPECT_EQ(Presets_Lit(), marked);
+    Osc_Wave_Click(4);
+    Osc_VScrollA_Change(0);
+    Dot(3, 3);
+    EXPECT_EQ(Presets_Lit(), marked);
+    EXPECT_EQ(Out(), Rows(18, 63));
+}
+
 TEST_F(The_Stairs, are_not_sent_while_they_are_drawn) {
     Draw(0, 0, 125, 100);
     EXPECT_EQ(Sent(), Lines{});
