@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cerrno>
+#include <filesystem>
 #include <functional>
 #include <string_view>
 #include <system_error>
@@ -198,5 +199,9 @@ void FD_List_Files_DblClick() {
 std::string FD_Path_Of(const std::string& folder, const std::string& name) {
     std::string start = folder;
     if (!start.ends_with(Path_Separator)) start += Path_Separator;
-    return start + (File_Exists(start + name) ? name : std::string(Trimmed(name)));
+    // Also one that may not be read: never another file for it.
+    std::error_code error;
+    const bool there =
+        std::filesystem::exists(std::filesystem::symlink_status(Path_Found(start + name), error));
+    return start + (there ? name : std::string(Trimmed(name)));
 }
