@@ -3,8 +3,8 @@
 
 #include "desk/menus.h"
 #include "filedlg/file_stage.h"
-#include "shell/frame.h"
 #include "sequencer/seq_commands.h"
+#include "shell/frame.h"
 #include "synth/undo.h"
 
 namespace {

@@ -61,6 +61,7 @@ TEST_F(Alpha_Juno_File, is_saved_and_comes_back_from_its_own_copy_and_is_sent) {
     FD_Show("SaveAs_SYX");
     Sent();
     const auto others = Tone_Data;
+    Tone_Loading = Flag_8::True;
     Juno_Data.fill(9);
     Type_And_Ok("New");
     EXPECT_FALSE(Is_Open());
@@ -69,6 +70,8 @@ TEST_F(Alpha_Juno_File, is_saved_and_comes_back_from_its_own_copy_and_is_sent) {
     EXPECT_EQ(Juno_Data[0], 5) << "what it was when the window opened";
     EXPECT_EQ(Juno_Data[48], 5);
     EXPECT_EQ(Tone_Data, others);
+    EXPECT_EQ(Tone_Loading, Flag_8::False);
+    EXPECT_EQ(Tone_Saved, Flag_16::True);
     const Lines sent = Sent();
     ASSERT_EQ(sent.size(), 2U) << "the tone, and the notes off of the closing";
     EXPECT_EQ(sent[0].substr(0, 20), "F0 41 35 00 23 20 01");

@@ -298,6 +298,18 @@ TEST_F(Save_As, brings_the_tone_back_from_the_copy_in_every_case_and_sends_it) {
     }
 }
 
+TEST_F(Save_As, stays_saved_though_the_panels_are_drawn_anew) {
+    Menu(Menu_Tone_Patch).chosen();
+    ASSERT_EQ(Patch_Window_Open, Flag_8::True);
+    Tone_Saved = Flag_16::False;
+    MIDI_Autosend = 1;
+    FD_Show("SaveAs_SYX");
+    Type_And_Ok("new");
+    EXPECT_EQ(Tone_Saved, Flag_16::True) << "as whoever asked for the save will see it";
+    EXPECT_FALSE(Is_Open());
+    EXPECT_TRUE(Patch.enabled);
+}
+
 TEST_F(Save_As, sends_nothing_with_autosend_off) {
     FD_Show("SaveAs_SYX");
     Type_And_Ok("new");
