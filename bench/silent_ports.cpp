@@ -6,9 +6,6 @@
 std::vector<std::string> Port_Out_Names() {
     return {"Synth"};
 }
-std::vector<std::string> Port_In_Names() {
-    return {};
-}
 Port_Result Port_Out_Open(int, Port_Handle& handle) {
     handle = 1;
     return Port_Ok;

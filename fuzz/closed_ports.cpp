@@ -4,9 +4,6 @@
 std::vector<std::string> Port_Out_Names() {
     return {};
 }
-std::vector<std::string> Port_In_Names() {
-    return {};
-}
 Port_Result Port_Out_Open(int, Port_Handle&) {
     return Port_No_Driver;
 }

@@ -20,6 +20,7 @@ test_packages=(
     libgtest-dev libbenchmark-dev
     clang clang-format clang-tidy libclang-rt-14-dev
     jackd2 xvfb xauth xdotool imagemagick
+    python3-mido python3-rtmidi
 )
 
 # Installs those of the named packages that are missing.

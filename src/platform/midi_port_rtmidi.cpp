@@ -1,4 +1,4 @@
-// The machine's ports through RtMidi. RtMidi never tells that a port has gone or that it is behind, so
+// The machine's output through RtMidi. RtMidi never tells that a port has gone or that it is behind, so
 // every send first asks the watch.
 #include <algorithm>
 #include <array>
@@ -35,35 +35,12 @@ struct Out_Port_State {
 
 Out_Port_State Out_Port;
 
-std::vector<std::string> Names_Of(std::vector<Raw_Port> ports) {
-    std::vector<std::string> names;
-    names.reserve(ports.size());
-    for (Raw_Port& port : ports) names.push_back(std::move(port.name));
-    return names;
-}
-
 bool Is_Open(Port_Handle handle) {
     return handle != Port_Closed && handle == Out_Port.handle;
 }
 
 bool Is_There() {
     return Out_Port.opened_with->watch->Service_Alive() && Out_Port.opened_with->watch->Port_Present();
-}
-
-// The port that the device of the last list is now. Devices that came or went meanwhile change RtMidi's
-// numbers, and a device that was plugged in again may have a new address, so the name decides. One that was
-// in the list itself is never taken for another.
-const Raw_Port* Found_Again(const std::vector<Raw_Port>& ports, const std::string& listed) {
-    for (const Raw_Port& port : ports) {
-        if (port.name == listed) return &port;
-    }
-    const std::vector<std::string> name = Port_Names_Stable({listed});
-    for (const Raw_Port& port : ports) {
-        if (std::find(Out_Port.listed.begin(), Out_Port.listed.end(), port.name) != Out_Port.listed.end())
-            continue;
-        if (Port_Names_Stable({port.name}) == name) return &port;
-    }
-    return nullptr;
 }
 
 // Closes RtMidi's port. It waits for the next period of the service and then for its answer, so a service
@@ -135,16 +112,8 @@ void Forget() {
 std::vector<std::string> Port_Out_Names() {
     Port_Clients* const clients = Port_Clients_Reached();
     Out_Port.listed.clear();
-    if (clients != nullptr) Out_Port.listed = Names_Of(Raw_Ports(*clients->out));
+    if (clients != nullptr) Out_Port.listed = Raw_Names(Raw_Ports(*clients->out));
     return Port_Names_Stable(Out_Port.listed);
-}
-
-std::vector<std::string> Port_In_Names() {
-    Port_Clients* const clients = Port_Clients_Reached();
-    if (clients == nullptr) return {};
-    const std::unique_ptr<RtMidiIn> in = Port_In_Client(*clients);
-    if (in == nullptr) return {};
-    return Port_Names_Stable(Names_Of(Raw_Ports(*in)));
 }
 
 Port_Result Port_Out_Open(int device, Port_Handle& handle) {
@@ -154,7 +123,7 @@ Port_Result Port_Out_Open(int device, Port_Handle& handle) {
     if (device < 0 || static_cast<std::size_t>(device) >= Out_Port.listed.size()) return Port_Bad_Device;
 
     const std::vector<Raw_Port> ports = Raw_Ports(*clients->out);
-    const Raw_Port* const port = Found_Again(ports, Out_Port.listed[static_cast<std::size_t>(device)]);
+    const Raw_Port* const port = Port_Found_Again(ports, Out_Port.listed, static_cast<std::size_t>(device));
     if (port == nullptr) return Port_Gone;
     const Port_Result result = Opened(*clients, *port);
     if (result != Port_Ok) return result;

@@ -5,10 +5,9 @@
 #include <sstream>
 #include <utility>
 
-namespace {
+#include "platform/port_names.h"
 
-// How many incoming messages RtMidi keeps until they are fetched.
-constexpr unsigned int In_Queue_Messages = 1024;
+namespace {
 
 struct Clients_State {
     std::unique_ptr<Port_Clients> clients;
@@ -59,11 +58,12 @@ bool Is_Compiled_In(RtMidi::Api api) {
 
 // The watch comes first: where it cannot be made, RtMidi need not be asked and has nothing to say.
 std::unique_ptr<Port_Clients> Made(RtMidi::Api api,
-                                   std::unique_ptr<Port_Watch> (*make_watch)(const std::string&)) {
+                                   std::unique_ptr<Port_Watch> (*make_watch)(const std::string&,
+                                                                             Port_Way)) {
     const std::string name(Port_Client_Name);
     if (!Is_Compiled_In(api)) return nullptr;
     auto clients = std::make_unique<Port_Clients>();
-    clients->watch = make_watch(name + " watch");
+    clients->watch = make_watch(name + " watch", Port_Way::Out);
     if (!clients->watch) return nullptr;
     const Error_Output_Kept errors;
     clients->out = std::make_unique<RtMidiOut>(api, name);
@@ -89,12 +89,16 @@ Port_Clients* Port_Clients_Reached() {
 std::unique_ptr<RtMidiIn> Port_In_Client(const Port_Clients& clients) {
     std::unique_ptr<RtMidiIn> client;
     const Error_Output_Kept errors;
-    (void)Asked([&] {
-        client = std::make_unique<RtMidiIn>(clients.api, std::string(Port_Client_Name), In_Queue_Messages);
-    });
+    (void)Asked([&] { client = std::make_unique<RtMidiIn>(clients.api, std::string(Port_Client_Name)); });
     if (!client || !errors.Is_Empty()) return nullptr;
     client->setErrorCallback(On_Error, nullptr);
     return client;
+}
+
+std::unique_ptr<Port_Watch> Port_In_Watch(const Port_Clients& clients) {
+    const std::string name = std::string(Port_Client_Name) + " input watch";
+    return clients.api == RtMidi::LINUX_ALSA ? Watch_Alsa(name, Port_Way::In)
+                                             : Watch_Jack(name, Port_Way::In);
 }
 
 void Port_Clients_Give_Up() {
@@ -115,6 +119,27 @@ std::vector<Raw_Port> Raw_Ports(RtMidi& client) {
         }
     });
     return ports;
+}
+
+std::vector<std::string> Raw_Names(const std::vector<Raw_Port>& ports) {
+    std::vector<std::string> names;
+    names.reserve(ports.size());
+    for (const Raw_Port& port : ports) names.push_back(port.name);
+    return names;
+}
+
+const Raw_Port* Port_Found_Again(const std::vector<Raw_Port>& ports, const std::vector<std::string>& listed,
+                                 std::size_t device) {
+    const std::string& wanted = listed.at(device);
+    for (const Raw_Port& port : ports) {
+        if (port.name == wanted) return &port;
+    }
+    const std::vector<std::string> name = Port_Names_Stable({wanted});
+    for (const Raw_Port& port : ports) {
+        if (std::find(listed.begin(), listed.end(), port.name) != listed.end()) continue;
+        if (Port_Names_Stable({port.name}) == name) return &port;
+    }
+    return nullptr;
 }
 
 const std::string& Port_Words() {

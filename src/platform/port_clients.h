@@ -32,8 +32,10 @@ struct Port_Clients {
 // The clients, made anew if there are none or if their service has died. Null where no service is reached.
 Port_Clients* Port_Clients_Reached();
 
-// A client for the input side, on the same service. Null where it cannot be made.
+// A client for the input side, on the same service, and a watch of its own beside it. Null where they
+// cannot be made.
 std::unique_ptr<RtMidiIn> Port_In_Client(const Port_Clients& clients);
+std::unique_ptr<Port_Watch> Port_In_Watch(const Port_Clients& clients);
 
 // Forgets the clients without closing them, since closing waits for an answer that no longer comes.
 void Port_Clients_Give_Up();
@@ -46,6 +48,14 @@ struct Raw_Port {
 
 // All ports at the other end, in the system's order, without our own.
 std::vector<Raw_Port> Raw_Ports(RtMidi& client);
+
+std::vector<std::string> Raw_Names(const std::vector<Raw_Port>& ports);
+
+// The port that a device of an earlier list of raw names is now. Devices that came or went meanwhile change
+// RtMidi's numbers, and a device that was plugged in again may have a new address, so the name decides. One
+// that was in the list itself is never taken for another. Null when it has gone.
+const Raw_Port* Port_Found_Again(const std::vector<Raw_Port>& ports, const std::vector<std::string>& listed,
+                                 std::size_t device);
 
 // The service's own words of the last failure.
 const std::string& Port_Words();

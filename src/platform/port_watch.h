@@ -1,4 +1,4 @@
-// Looks after the one output that RtMidi has opened, because RtMidi does not tell when a port has gone,
+// Looks after the one port that RtMidi has opened, because RtMidi does not tell when a port has gone,
 // when the whole service has gone, how much it can take, or whether it has handed everything over.
 //
 // One watch a service. Each holds a small client of its own beside RtMidi's, so making one is also the
@@ -11,6 +11,9 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+
+// Whether the program writes to the watched port or reads from it.
+enum class Port_Way { Out, In };
 
 class Port_Watch {
   public:
@@ -31,7 +34,7 @@ class Port_Watch {
     virtual void Before_Open(const std::string& raw_name) = 0;
     virtual bool After_Open() = 0;
 
-    // False when the watched port has gone, or nothing is connected with our output any more.
+    // False when the watched port has gone, or nothing is connected with ours any more.
     virtual bool Port_Present() = 0;
 
     // The longest message that arrives whole.
@@ -48,5 +51,5 @@ class Port_Watch {
 };
 
 // Null where the service cannot be reached.
-std::unique_ptr<Port_Watch> Watch_Alsa(const std::string& client_name);
-std::unique_ptr<Port_Watch> Watch_Jack(const std::string& client_name);
+std::unique_ptr<Port_Watch> Watch_Alsa(const std::string& client_name, Port_Way way);
+std::unique_ptr<Port_Watch> Watch_Jack(const std::string& client_name, Port_Way way);

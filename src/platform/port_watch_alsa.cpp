@@ -1,6 +1,6 @@
 // The ALSA sequencer forgets a connection when its device is unplugged and goes on taking events. A device
 // that is plugged in again mostly comes back at the same address, but without the connection. So before
-// each send two questions go to the sequencer: is the port there, and does anybody listen to our output.
+// each send two questions go to the sequencer: is the port there, and is our port connected.
 #include <alsa/asoundlib.h>
 #include <unistd.h>
 
@@ -47,8 +47,10 @@ std::optional<snd_seq_addr_t> Address_In(const std::string& raw_name) {
 
 class Alsa_Watch final : public Port_Watch {
   public:
-    explicit Alsa_Watch(snd_seq_t* sequencer)
+    Alsa_Watch(snd_seq_t* sequencer, Port_Way way)
         : sequencer_(sequencer),
+          ours_at_target_(way == Port_Way::Out ? SND_SEQ_QUERY_SUBS_WRITE : SND_SEQ_QUERY_SUBS_READ),
+          target_at_ours_(way == Port_Way::Out ? SND_SEQ_QUERY_SUBS_READ : SND_SEQ_QUERY_SUBS_WRITE),
           port_info_(Made<Port_Info>(snd_seq_port_info_malloc)),
           client_info_(Made<Client_Info>(snd_seq_client_info_malloc)),
           query_(Made<Query>(snd_seq_query_subscribe_malloc)) {}
@@ -61,16 +63,17 @@ class Alsa_Watch final : public Port_Watch {
 
     void Before_Open(const std::string& raw_name) override {
         target_ = Address_In(raw_name);
-        source_.reset();
+        ours_.reset();
     }
 
-    // RtMidi does not tell its own address. It is the one at which this process writes to the target.
+    // RtMidi does not tell its own address. It is the one at which this process writes to the target, or
+    // reads from it.
     bool After_Open() override {
         if (!target_) return false;
-        for (int index = 0; Ask_Subscription(*target_, SND_SEQ_QUERY_SUBS_WRITE, index); ++index) {
-            const snd_seq_addr_t writer = *snd_seq_query_subscribe_get_addr(query_.get());
-            if (!Is_Ours(writer.client)) continue;
-            source_ = writer;
+        for (int index = 0; Ask_Subscription(*target_, ours_at_target_, index); ++index) {
+            const snd_seq_addr_t other = *snd_seq_query_subscribe_get_addr(query_.get());
+            if (!Is_Ours(other.client)) continue;
+            ours_ = other;
             target_is_hardware_ = Is_Hardware(target_->client);
             return true;
         }
@@ -78,10 +81,10 @@ class Alsa_Watch final : public Port_Watch {
     }
 
     bool Port_Present() override {
-        return target_ && source_ &&
+        return target_ && ours_ &&
                snd_seq_get_any_port_info(sequencer_, target_->client, target_->port, port_info_.get()) ==
                    0 &&
-               Ask_Subscription(*source_, SND_SEQ_QUERY_SUBS_READ, 0);
+               Ask_Subscription(*ours_, target_at_ours_, 0);
     }
 
     std::size_t Longest_Message() const override { return Kernel_Buffer_Bytes; }
@@ -116,11 +119,13 @@ class Alsa_Watch final : public Port_Watch {
     }
 
     snd_seq_t* sequencer_;
+    snd_seq_query_subs_type_t ours_at_target_;  // the list at the target in which our port stands
+    snd_seq_query_subs_type_t target_at_ours_;  // and the other way
     Port_Info port_info_;
     Client_Info client_info_;
     Query query_;
     std::optional<snd_seq_addr_t> target_;  // the port at the other end
-    std::optional<snd_seq_addr_t> source_;  // RtMidi's port
+    std::optional<snd_seq_addr_t> ours_;    // RtMidi's port
     bool target_is_hardware_ = false;
 };
 
@@ -130,10 +135,10 @@ void Say_Nothing(const char* /*file*/, int /*line*/, const char* /*function*/, i
 
 }  // namespace
 
-std::unique_ptr<Port_Watch> Watch_Alsa(const std::string& client_name) {
+std::unique_ptr<Port_Watch> Watch_Alsa(const std::string& client_name, Port_Way way) {
     snd_lib_error_set_handler(Say_Nothing);
     snd_seq_t* sequencer = nullptr;
     if (snd_seq_open(&sequencer, "default", SND_SEQ_OPEN_OUTPUT, SND_SEQ_NONBLOCK) < 0) return nullptr;
     snd_seq_set_client_name(sequencer, client_name.c_str());
-    return std::make_unique<Alsa_Watch>(sequencer);
+    return std::make_unique<Alsa_Watch>(sequencer, way);
 }

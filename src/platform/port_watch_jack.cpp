@@ -197,7 +197,7 @@ class Jack_Watch final : public Port_Watch {
 
 }  // namespace
 
-std::unique_ptr<Port_Watch> Watch_Jack(const std::string& client_name) {
+std::unique_ptr<Port_Watch> Watch_Jack(const std::string& client_name, Port_Way /*way*/) {
     // libjack tells its troubles on the outputs of the program; here they are results.
     jack_set_error_function([](const char*) {});
     jack_set_info_function([](const char*) {});

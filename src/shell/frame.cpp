@@ -7,6 +7,7 @@
 #include "desk/windows.h"
 #include "filedlg/preview.h"
 #include "midi/devices.h"
+#include "midi/in.h"
 #include "midi/out.h"
 #include "panels/editor.h"
 #include "platform/display.h"
@@ -137,6 +138,8 @@ void Main_Unload() {
     Timer_Stop(Timer_Display);
     Timer_Stop(Timer1);
     Timer_Stop(Seq_Tmr);
+    // A tone that is still waited for must not leave automatic sending off in the settings.
+    if (MIDI_Receiving != 0) MIDI_Receive_Toggle();
     Settings_Write();
     MIDI_Out_Close_Fully();
     Event_Loop_Turn();

@@ -221,6 +221,9 @@ void Read_All() {
     for (const Setting& setting : Settings) {
         if (setting.read != nullptr) Read(setting);
     }
+    // Receiving works with an instrument that is set up for it, and is there for those who ask for it by
+    // hand: no run writes this key.
+    Menu(Menu_Tone_Receive).visible = Setting_Get("MIDI", "Receive", "0") == "1";
     // A window that was minimised at the end had its place far outside.
     Main_Window.left = std::max(0, Main_Window.left);
     Main_Window.top = std::max(0, Main_Window.top);

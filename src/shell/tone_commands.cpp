@@ -71,7 +71,10 @@ void File_SYX_Opened() {
 
 void Tone_Receive_Chosen() {
     Panel_Restore_Picture();
-    if (Tone_May_Go(Buttons_Set::Yes_No)) MIDI_Receive_Toggle();
+    if (!Tone_May_Go(Buttons_Set::Yes_No)) return;
+    // The mode needs an open port; without one nothing more happens.
+    MIDI_In_Open();
+    MIDI_Receive_Toggle();
 }
 
 void Tone_Commands_Install() {

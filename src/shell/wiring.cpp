@@ -11,6 +11,7 @@
 #include "panels/juno_panel.h"
 #include "panels/mks_patch.h"
 #include "panels/patch.h"
+#include "panels/receive_mode.h"
 #include "sequencer/engine.h"
 #include "seqwin/seqwin.h"
 #include "setup/setup.h"
@@ -24,11 +25,14 @@
 #include "shell/window_commands.h"
 #include "synth/juno.h"
 #include "synth/juno_file.h"
+#include "synth/reception.h"
 
 void Program_Wire() {
     Controls_Install();
     Sequencer_Install();
     Editor_Install();
+    Reception_Install();
+    Receive_Mode_Install();
     Patch_Install();
     MKS_Patch_Install();
     Patch_Lamps_Reset = Patch_Lamps_To_First;

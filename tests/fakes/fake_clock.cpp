@@ -8,6 +8,7 @@
 #include "platform/event_loop.h"
 #include "platform/gate.h"
 #include "platform/timer.h"
+#include "platform/wake_up.h"
 
 using std::chrono::milliseconds;
 
@@ -19,12 +20,15 @@ milliseconds Now{0};
 std::map<Timer*, milliseconds> Due;
 std::deque<std::function<void()>> Pending;
 Timer* Ticking = nullptr;
+Hook<void()> Waking;
+bool Woken = false;
 
 void Run_Pending() {
     for (std::deque<std::function<void()>> events = std::exchange(Pending, {}); !events.empty();
          events.pop_front()) {
         events.front()();
     }
+    if (std::exchange(Woken, false) && Waking.Filled()) Guarded_Event([] { Waking(); });
 }
 
 }  // namespace
@@ -61,6 +65,20 @@ void Advance(milliseconds time) {
         Ticking = outer;
     }
     Now = std::max(Now, end);
+}
+
+void Wake_Up_Begin(Hook<void()> event) {
+    Waking = event;
+    Woken = false;
+}
+void Wake_Up_End() {
+    Waking = {};
+}
+void Wake_Up() {
+    Woken = true;
+}
+bool Wakes() {
+    return Waking.Filled();
 }
 
 void At_Next_Turn(const std::function<void()>& event) {

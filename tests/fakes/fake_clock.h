@@ -10,6 +10,9 @@ void Advance(std::chrono::milliseconds time);
 // Runs `event` at the next turn of the event loop.
 void At_Next_Turn(const std::function<void()>& event);
 
+// Whether a Wake_Up leads to an event at the moment.
+bool Wakes();
+
 struct Fake_Loop {
     int turns = 0;             // calls of Event_Loop_Turn
     int waits = 0;             // calls of Event_Loop_Wait

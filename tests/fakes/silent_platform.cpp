@@ -4,6 +4,7 @@
 #include "platform/event_loop.h"
 #include "platform/message_box.h"
 #include "platform/timer.h"
+#include "platform/wake_up.h"
 
 Answer Message_Box(const std::string&, Buttons_Set buttons, Icon, const std::string&) {
     return buttons == Buttons_Set::Ok ? Answer::Ok : Answer::Yes;
@@ -42,3 +43,6 @@ bool System_Sound_Play(const std::string&) {
     return true;
 }
 void Beep() {}
+
+void Wake_Up_Begin(Hook<void()>) {}
+void Wake_Up_End() {}
