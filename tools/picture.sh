@@ -8,7 +8,8 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 build=$(cd "$1" && pwd)
 docs=$PWD/docs
-folder=$(mktemp -d)
+folder=${TMPDIR:-/tmp}/studio
+mkdir "$folder"
 trap 'kill $(jobs -p) $screen 2>/dev/null || true; rm -rf "$folder"' EXIT
 
 export JACK_NO_AUDIO_RESERVATION=1 JACK_DEFAULT_SERVER=tonebench-picture XDG_RUNTIME_DIR=$folder
