@@ -51,8 +51,12 @@ for row in $(seq 60 4 160) $(seq 160 -4 60); do moves+=(mousemove 446 "$row" sle
 end=$((SECONDS + seconds))
 while [ $SECONDS -lt $end ]; do xdotool "${moves[@]}"; done
 xdotool mouseup 1 key ctrl+x
-sleep 0.5
-xdotool key alt+n 2>/dev/null || true
+for _ in $(seq 10); do # the dragged tone is not saved
+    sleep 0.5
+    kill -0 $program 2>/dev/null || break
+    xdotool key alt+n
+done
+kill $program 2>/dev/null || true
 wait $program 2>/dev/null || true
 
 echo >&4
@@ -65,11 +69,12 @@ INTERVAL = 62
 lines = open(sys.argv[1]).read().split("\n")
 times = [int(line) / 1000 for line in lines if line.isdigit()]
 others = next(line.split()[0] for line in lines if line.endswith("others"))
-late = [time - step * INTERVAL for step, time in enumerate(times)]
+steps = [round((time - times[0]) / INTERVAL) for time in times]
+late = [time - step * INTERVAL for time, step in zip(times, steps)]
 middle = statistics.median(late)
 off = [abs(difference - middle) for difference in late]
 inside = sum(difference <= 2 for difference in off)
 print(f"{len(off)} steps at {INTERVAL} ms, with {others} other messages beside their first notes")
 print(f"within 2 ms of their due time: {100 * inside / len(off):.2f} %, the furthest {max(off):.1f} ms off")
-print(f"the last step against the first: {late[-1] - late[0]:+.1f} ms")
+print(f"the last step against the first: {late[-1] - late[0]:+.1f} ms, steps not heard: {steps[-1] + 1 - len(steps)}")
 EOF

@@ -98,7 +98,7 @@ play_juno() {
 
 play_envelope() {
     play_juno
-    drag_control 309 390 20
+    drag_control 309 326 10 # where the first drag has left the thumb
 }
 
 # A place in the oscillator's window, which stands in the middle of the main one.

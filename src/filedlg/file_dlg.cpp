@@ -110,6 +110,13 @@ void Unload() {
     FD_Open = Flag_16::False;
 }
 
+void Show_And_Wait(const char* mode) {
+    // Among the events of the window's own closing: the end of that would wait for this wait.
+    if (File_Dlg.unloading) return;
+    FD_Show(mode);
+    Dialog_Wait();
+}
+
 void Seq_Preview_Show(int cell, int picture) {
     FD_SEQ_Preview.at(static_cast<std::size_t>(cell)).picture = picture;
 }
@@ -125,6 +132,7 @@ bool Seq_Preview_Empty() {
 Drop_Down FD_List_Filter;
 
 void FD_Show(const std::string& mode) {
+    if (File_Dlg.unloading) return;
     const bool open = File_Dlg.loaded;
     FD_Mode = mode;
     // A save that is asked for in the middle of a load.
@@ -165,14 +173,8 @@ void FD_Button_Cancel_Click() {
 void File_Dlg_Install() {
     File_Dlg.load = Load;
     File_Dlg.unload = Unload;
-    SYX_Save_As = [] {
-        FD_Show("SaveAs_SYX");
-        Dialog_Wait();
-    };
-    Seq_Save_As = [] {
-        FD_Show("SaveAs_SEQ");
-        Dialog_Wait();
-    };
+    SYX_Save_As = [] { Show_And_Wait("SaveAs_SYX"); };
+    Seq_Save_As = [] { Show_And_Wait("SaveAs_SEQ"); };
     Seq_Open = [] { FD_Show("Open_SEQ"); };
     Tone_File_Loaded = [] { FD_Done = Flag_8::True; };
     Seq_File_Loaded = Tone_File_Loaded;

@@ -7,6 +7,7 @@
 #include "desk/form.h"
 
 // Sets FD_Mode and shows the window. One that stands open already takes the new mode on.
+// Nothing while the window closes.
 void FD_Show(const std::string& mode);
 
 // Title, filter, panel and extension of FD_Mode; before a save the tone is copied away.

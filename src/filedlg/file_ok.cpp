@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cerrno>
+#include <filesystem>
 #include <functional>
 #include <string_view>
 #include <system_error>
@@ -87,10 +88,10 @@ std::string Small_Path(const std::string& path) {
     return same_file ? small : path;
 }
 
-bool May_Write(const std::string& path, const std::string& shown) {
+bool May_Write(const std::string& path) {
     if (!File_Exists(path)) return true;
     // The title is the same for both kinds of file.
-    return Message_Box("File exists: " + shown + " Overwrite?", Buttons_Set::Yes_No, Icon::Stop,
+    return Message_Box("File exists: " + path + " Overwrite?", Buttons_Set::Yes_No, Icon::Stop,
                        "Write TONE file") == Answer::Yes;
 }
 
@@ -112,7 +113,7 @@ void Open_Sequence(const std::string& path) {
 void Save_Tone_As() {
     if (!Done_At_Last(Dirs_Follow_Files) || Names_Every_Tone()) return;
     Tone_File_Name = Small_Path(Chosen_Path());
-    if (May_Write(Tone_File_Name, Tone_File_Name)) {
+    if (May_Write(Tone_File_Name)) {
         SYX_Save();
         if (Is_True(Tone_Saved)) FD_Done = Flag_8::True;
     }
@@ -123,8 +124,9 @@ void Save_Tone_As() {
 void Save_Sequence_As() {
     if (!Done_At_Last(Dirs_Follow_Files) || Names_Every_Tone()) return;
     Seq_File_Path = Small_Path(Chosen_Path());
-    if (May_Write(Seq_File_Path, Seq_File_Path)) {
-        Seq_Write();
+    if (May_Write(Seq_File_Path)) {
+        // A tone's save tells its failures itself; a sequence's leaves that to whoever asked for it.
+        if (!Done_At_Last(Seq_Write)) return;
         if (Is_True(Tone_Saved)) FD_Done = Flag_8::True;
     }
 }
@@ -197,5 +199,9 @@ void FD_List_Files_DblClick() {
 std::string FD_Path_Of(const std::string& folder, const std::string& name) {
     std::string start = folder;
     if (!start.ends_with(Path_Separator)) start += Path_Separator;
-    return start + (File_Exists(start + name) ? name : std::string(Trimmed(name)));
+    // Also one that may not be read: never another file for it.
+    std::error_code error;
+    const bool there =
+        std::filesystem::exists(std::filesystem::symlink_status(Path_Found(start + name), error));
+    return start + (there ? name : std::string(Trimmed(name)));
 }

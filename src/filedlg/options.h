@@ -7,6 +7,6 @@
 extern std::int16_t FD_Left;
 extern std::int16_t FD_Top;
 
-extern std::uint8_t Soundcheck_Mode;  // 1 = a preview plays the note below
+extern std::uint8_t Soundcheck_Mode;  // what a preview plays: 0 the note below, 1 the sequence
 extern std::uint8_t Soundcheck_Note;
 extern std::uint8_t Soundcheck_Velocity;

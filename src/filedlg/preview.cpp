@@ -133,9 +133,9 @@ void FD_Preview_Start() {
         Enable_Lists(false);
     }
     if (Memory_Holds_None()) {
-        // In this order, as a disabled option would keep its lamp for when it is enabled.
-        Option_Select(FD_SYX_OB_Soundcheck, 0);
+        // In this order: what was stored stays in the disabled option, and Autoplay brings its lamp back.
         Option_Disable(FD_SYX_OB_Soundcheck[1]);
+        Option_Select(FD_SYX_OB_Soundcheck, 0);
         Show_Symbols(Picture_Store::Start_Disabled, Picture_Store::Stop_Disabled);
     } else {
         Option_Enable(FD_SYX_OB_Soundcheck[1]);

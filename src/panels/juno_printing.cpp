@@ -21,7 +21,7 @@ const std::array<Panel_Group, 7> Groups = {{
     {"BENDER", {365, 282.5}, Box(359.5, 271.5, 412.5, 343.5)},
 }};
 
-// -- captions and positions ---------------------------------------------------------------------------------
+// -- captions and positions -------------------------------------------------------------------------------
 
 using Positions_List = std::vector<Switch_Position>;
 
@@ -116,8 +116,7 @@ std::vector<Thumb_Reach> Reaches() {
     return reaches;
 }
 
-// -- what is printed at each type of control
-// ----------------------------------------------------------------
+// -- what is printed at each type of control --------------------------------------------------------------
 
 // The names of switches stand level with those of the sliders beside them, which start a little lower.
 int Caption_Row_Of(const Thumb_Reach& reach) {
@@ -158,8 +157,7 @@ void Print_Bender(Printing& printing, const Juno_Row& row) {
     }
 }
 
-// -- the envelope's stages below their sliders
-// --------------------------------------------------------------
+// -- the envelope's stages below their sliders ------------------------------------------------------------
 
 // A piece of the curve: where it ends, and what the way there and its end are called.
 struct Stage {

@@ -39,6 +39,11 @@ void Knob_To(double byte) {
     Patch_Set_Value(Patch_UDTune, value);
 }
 
+// The sideways keys, which step the other panels' knobs, step nothing here.
+double Knob_Step(double byte, int key) {
+    return key == Key_Left || key == Key_Right ? byte : Fine_Step(byte, key);
+}
+
 // -- the lamps -------------------------------------------------------------------------------------------
 
 // Which item of a group a control is; nothing when it is none.
@@ -135,7 +140,7 @@ void Key_Pressed(Control& control, int key) {
         Patch_Slider_Key(row.number, key);
     } else if (Is_Knob(row.type)) {
         // A knob has no notion of an unknown key: every key sends.
-        Knob_To(Fine_Step(Patch_Data[Patch_UDTune], key));
+        Knob_To(Knob_Step(Patch_Data[Patch_UDTune], key));
     } else {
         Switch_Key(control, row, key);
     }

@@ -45,7 +45,8 @@ void File_Seq_Save_Chosen() {
     if (Seq_File_Path.empty() || Seq_File_Path == ".seq") {
         Seq_Save_As();
     } else {
-        Seq_Write();
+        const int error = Seq_Write();
+        if (error != 0) Seq_Show_Error(error);
     }
 }
 

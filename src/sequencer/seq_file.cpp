@@ -40,19 +40,10 @@ int Told_Number(int error) {
     return error == ECANCELED ? Question_Given_Up : error;
 }
 
-void Show_Error(int error) {
-    const int number = Told_Number(error);
-    if (number == Question_Given_Up) return;
-    Message_Box(number == Bad_File_Name
-                    ? "Wrong filename!"
-                    : "Error " + std::to_string(number) + ": " + std::generic_category().message(number),
-                Buttons_Set::Ok, Icon::Stop);
-}
-
 std::vector<std::uint8_t> Read_Start(const std::string& path) {
     std::vector<std::uint8_t> bytes;
     File_Reader file(path);
-    if (!file.Is_Open()) Show_Error(errno);
+    if (!file.Is_Open()) Seq_Show_Error(errno);
     while (bytes.size() < SEQ_Size) {
         const auto byte = file.At(bytes.size() + 1);
         if (!byte) break;
@@ -122,19 +113,26 @@ void Seq_Load(std::string path, const std::string& mode) {
     Seq_Panel_Buttons_On();
 }
 
-void Seq_Write() {
+void Seq_Show_Error(int error) {
+    const int number = Told_Number(error);
+    if (number == Question_Given_Up) return;
+    Message_Box(number == Bad_File_Name
+                    ? "Wrong filename!"
+                    : "Error " + std::to_string(number) + ": " + std::generic_category().message(number),
+                Buttons_Set::Ok, Icon::Stop);
+}
+
+int Seq_Write() {
     std::string contents(Magic);
     contents += static_cast<char>(Seq_Tempo_Value);
     contents += static_cast<char>(Seq_Base_Note);
     for (const std::int16_t cell : Seq_Notes) contents += static_cast<char>(cell);
     const int error = File_Overwrite(Seq_File_Path, contents);
-    if (error != 0) {
-        Show_Error(error);
-        return;
-    }
+    if (error != 0) return error;
     Recent_Seq_Add(Seq_File_Path);
     Seq_File_Name = Cut_From_Start(Seq_File_Path, Dir_Sequences.size());
     Seq_Show_Title();
     Menu(Menu_File_Seq_Save).enabled = true;
     Seq_Saved = Flag_8::True;
+    return 0;
 }

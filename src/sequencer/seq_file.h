@@ -21,9 +21,12 @@ inline constexpr const char* Seq_Mode_Open = "Open";
 // over path and recent list without a word.
 void Seq_Load(std::string path, const std::string& mode);
 
-// Writes the sequence to Seq_File_Path, over the start of a longer file. A failure is shown and leaves the
-// sequence as unsaved as it was.
-void Seq_Write();
+// Writes the sequence to Seq_File_Path, over the start of a longer file. 0, or the error number (errno) of
+// what failed: the sequence is as unsaved as it was then, and the caller tells why.
+int Seq_Write();
+
+// A box about an error number of a sequence's file.
+void Seq_Show_Error(int error);
 
 // Filled in by the sequencer's window: its tempo and range controls take over what was loaded. The range
 // sets the base note anew, with the window's present transpose.

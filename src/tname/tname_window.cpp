@@ -12,7 +12,8 @@
 #include "synth/tone.h"
 #include "tname/tname.h"
 
-TName_Window::TName_Window(QMainWindow* parent) : Child_Window(TName, parent), tone_name_(new QLineEdit(this)) {
+TName_Window::TName_Window(QMainWindow* parent)
+    : Child_Window(TName, parent), tone_name_(new QLineEdit(this)) {
     auto* prompt = new QLabel(TName_Prompt, this);
     prompt->setObjectName("Prompt");
     prompt->setBuddy(tone_name_);

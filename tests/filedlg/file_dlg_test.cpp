@@ -3,6 +3,7 @@
 
 #include "desk/menus.h"
 #include "filedlg/file_stage.h"
+#include "sequencer/seq_commands.h"
 #include "shell/frame.h"
 #include "synth/undo.h"
 
@@ -268,6 +269,22 @@ TEST_F(File_Window, hears_nothing_while_it_closes_or_when_it_is_closed) {
     EXPECT_EQ(Tone_File_Name, "");
     Ok();
     EXPECT_EQ(Tone_File_Name, "");
+}
+
+TEST_F(File_Window, does_not_open_and_nobody_waits_for_it_while_it_closes) {
+    FD_Show("Open_SYX");
+    At_Next_Turn([] {
+        FD_Show("Open_SEQ");
+        SYX_Save_As();
+        Seq_Save_As();
+        EXPECT_EQ(FD_Mode, "Open_SYX");
+        EXPECT_EQ(Loop.waits, 0);
+    });
+    FD_Button_Cancel_Click();
+    EXPECT_FALSE(Is_Open());
+    EXPECT_EQ(App_Mode, "");
+    FD_Show("Open_SEQ");
+    EXPECT_TRUE(Is_Open());
 }
 
 TEST_F(File_Window, goes_with_the_frame) {

@@ -298,6 +298,18 @@ TEST_F(Save_As, brings_the_tone_back_from_the_copy_in_every_case_and_sends_it) {
     }
 }
 
+TEST_F(Save_As, stays_saved_though_the_panels_are_drawn_anew) {
+    Menu(Menu_Tone_Patch).chosen();
+    ASSERT_EQ(Patch_Window_Open, Flag_8::True);
+    Tone_Saved = Flag_16::False;
+    MIDI_Autosend = 1;
+    FD_Show("SaveAs_SYX");
+    Type_And_Ok("new");
+    EXPECT_EQ(Tone_Saved, Flag_16::True) << "as whoever asked for the save will see it";
+    EXPECT_FALSE(Is_Open());
+    EXPECT_TRUE(Patch.enabled);
+}
+
 TEST_F(Save_As, sends_nothing_with_autosend_off) {
     FD_Show("SaveAs_SYX");
     Type_And_Ok("new");
@@ -442,12 +454,33 @@ TEST_F(Save_Sequence_As, stays_open_behind_a_saved_sequence_while_the_tone_is_un
     EXPECT_TRUE(Is_Open());
 }
 
-TEST_F(Save_Sequence_As, closes_behind_a_failed_save_while_the_tone_is_saved) {
+TEST_F(Save_Sequence_As, shows_why_it_failed_and_stays_open) {
     FD_Show("SaveAs_SEQ");
-    Expect_Box("Error 2: No such file or directory");
-    Type_And_Ok("gone/tune");
-    EXPECT_FALSE(Is_Open()) << "it looks at the tone alone";
-    EXPECT_EQ(Seq_Saved, Flag_8::False);
+    std::filesystem::create_symlink("/dev/full", Disk("full.seq"));
+    const std::pair<const char*, const char*> failures[] = {
+        {" gone/tune", "gone/tune.seq : File not found"},
+        {"Leads/", "Leads/ : Is a directory"},
+        {"full", "full.seq : No space left on device"},
+    };
+    for (const auto& [typed, text] : failures) {
+        const int before = FD_FileName.times_selected;
+        Expect_Box(text);
+        Type_And_Ok(typed);
+        EXPECT_EQ(Boxes.back().icon, Icon::Exclamation);
+        EXPECT_EQ(Boxes.back().buttons, Buttons_Set::Ok);
+        Expect_Selected_And_Open(before);
+        EXPECT_EQ(Seq_Saved, Flag_8::False);
+    }
+}
+
+TEST_F(Save_Sequence_As, tries_again_behind_a_failure) {
+    FD_Show("SaveAs_SEQ");
+    Answer_With("later/tune.seq : File not found", Answer::Ok,
+                [] { std::filesystem::create_directory(Disk("later")); });
+    Type_And_Ok("later/tune");
+    EXPECT_EQ(std::filesystem::file_size(Disk("later/tune.seq")), 110U);
+    EXPECT_EQ(Seq_Saved, Flag_8::True);
+    EXPECT_FALSE(Is_Open());
 }
 
 TEST_F(Save_Sequence_As, tests_for_the_tones_pattern) {

@@ -280,6 +280,18 @@ TEST_F(Folder_Button, deletes_the_name_with_its_blanks_when_there_is_one) {
     EXPECT_FALSE(std::filesystem::exists(Disk(" a.syx")));
 }
 
+TEST_F(Folder_Button, deletes_no_other_file_for_one_that_may_not_be_read) {
+    Write(Disk("a.syx "), "x");
+    std::filesystem::permissions(Disk("a.syx "), std::filesystem::perms::none);
+    FD_List_Files_Set_Pattern("*");
+    Press_File("a.syx ");
+    Answer_With("Delete A.SYX  ?", Answer::Yes);
+    const Plain_User user;
+    Delete();
+    EXPECT_TRUE(std::filesystem::exists(Disk("a.syx")));
+    EXPECT_FALSE(std::filesystem::exists(Disk("a.syx ")));
+}
+
 TEST_F(Folder_Button, tells_a_file_that_could_not_be_deleted) {
     Press_File("a.syx");
     for (const char* typed : {"gone.syx", "", "*.syx", "Leads", "a?syx"}) {

@@ -135,8 +135,13 @@ TEST_F(Options, select_the_note_without_a_sequence_whatever_is_stored) {
     Soundcheck_Mode = 1;
     FD_Show("Open_SYX");
     Expect_Lamp(FD_SYX_OB_Soundcheck[0], 1, 1, true);
-    EXPECT_EQ(FD_SYX_OB_Soundcheck[1].tag, 0);
-    EXPECT_EQ(Soundcheck_Mode, 1) << "the stored choice stays";
+    Expect_Lamp(FD_SYX_OB_Soundcheck[1], 1, 1, true);
+    EXPECT_EQ(Soundcheck_Mode, 1) << "the stored choice stays, and Autoplay shows it again";
+    FD_Button_Cancel_Click();
+    MIDI_Autoplay = 0;
+    FD_Show("Open_SYX");
+    Expect_Lamp(FD_SYX_OB_Soundcheck[0], 1, 5, false);
+    Expect_Lamp(FD_SYX_OB_Soundcheck[1], 1, 5, false);
 }
 
 // -- clicks ----------------------------------------------------------------------------------------------

@@ -9,8 +9,10 @@
 #include "fakes/stage.h"
 #include "help/howto.h"
 #include "help/topics.h"
+#include "panels/juno_panel.h"
 #include "platform/text.h"
 #include "shell/frame.h"
+#include "synth/profile.h"
 #include "synth/tone.h"
 
 namespace {
@@ -286,6 +288,24 @@ TEST_F(Help_Is, beginning_with_no_topic_where_the_focused_controls_is_yet_to_com
         EXPECT_EQ(Help_Window_Form.keyword, "") << control;
         EXPECT_EQ(Selected(), "Editor");
         Help_Close_Asked();
+    }
+}
+
+TEST_F(Help_Is, beginning_with_no_topic_over_the_alpha_junos_controls_either) {
+    Synthesizer = "Alpha Juno";
+    Sysex_Headers_Update();
+    Play_On(Juno_Panel);
+    Juno_Panel.events.activated();
+    for (const auto& [control, context] :
+         {std::pair{"DCO_Range", 1}, {"DCO_SawTooth", 2}, {"DCO_Sub", 2}, {"DCO_LFO", 4}, {"VCF_LFO", 4}}) {
+        Focus(control);
+        Panel_Blink_Tick();
+        EXPECT_EQ(Panel_Help_Context, context) << control;
+        Choose(Menu_Help_Search);
+        EXPECT_EQ(Help_Window_Form.keyword, "") << control;
+        EXPECT_EQ(Selected(), "Editor");
+        Help_Close_Asked();
+        EXPECT_EQ(Panel_Current_Control, &At(control));
     }
 }
 

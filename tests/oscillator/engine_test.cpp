@@ -1,5 +1,7 @@
 #include "oscillator/engine.h"
 
+#include <ctime>
+
 #include "desk/dialog_lock.h"
 #include "desk/timers.h"
 #include "midi/out.h"
@@ -116,6 +118,25 @@ TEST_F(The_Oscillator, speaks_with_the_header_of_the_profile_and_the_channel) {
     EXPECT_EQ(Sent(), (Lines{"F0 41 36 0F 24 20 01 0E 40 F7", "F0 41 36 0F 24 30 01 01 40 F7"}));
 }
 
+TEST_F(The_Oscillator, speaks_to_an_alpha_juno_which_has_no_header_for_a_patch) {
+    Synthesizer = "Alpha Juno";
+    Sysex_Headers_Update();
+    Sent();
+    Osc_Combo1_Click(VCF_Cutoff);
+    Osc_Send(100);
+    Osc_Combo1_Click(24);
+    Osc_Send(100);
+    EXPECT_EQ(Sent(), (Lines{"F0 41 36 00 23 20 01 22 64 F7", "01 64 F7"}));
+}
+
+TEST_F(The_Oscillator, starts_its_notes_on_the_channel_that_is_set) {
+    MIDI_Channel = 16;
+    Osc_Combo1_Click(Notes);
+    Send_Always(60);
+    Osc_Tick();
+    EXPECT_EQ(Sent(), Lines{"9F 3C 7F"});
+}
+
 TEST_F(The_Oscillator, sends_the_text_before_once_more_for_a_code_that_is_no_target) {
     Osc_Combo1_Click(VCF_Cutoff);
     Osc_Send(12);
@@ -214,6 +235,27 @@ TEST_F(The_Oscillator, keeps_its_step_in_range_by_the_value_as_it_stands) {
     EXPECT_EQ(Osc_Step, 17);
     Osc_Tick();
     EXPECT_EQ(Osc_Step, 0);
+}
+
+TEST_F(The_Oscillator, stays_in_range_when_a_step_falls_into_the_events_of_another) {
+    Osc_Combo1_Click(VCF_Cutoff);
+    Osc_Wave_Click(1);
+    Osc_Step = 16;
+    At_Next_Turn(Osc_Tick);
+    Osc_Tick();
+    EXPECT_EQ(Osc_Step, 0);
+    EXPECT_EQ(Sent(), (Lines{Head + "22 60 F7", Head + "22 64 F7"}));
+}
+
+TEST_F(The_Oscillator, takes_less_than_50_microseconds_for_a_step) {
+    constexpr int Steps = 2000;
+    Osc_Combo1_Click(VCF_Cutoff);
+    // Of the processor and not of the clock on the wall: other programs may run beside the test.
+    const std::clock_t begin = std::clock();
+    for (int step = 0; step < Steps; ++step) Osc_Tick();
+    const double seconds = 1.0 * static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
+    EXPECT_LT(seconds / Steps, 50e-6);
+    EXPECT_EQ(Sent().size(), std::size_t{Steps});
 }
 
 TEST_F(The_Oscillator, lets_pending_events_run_behind_each_step) {

@@ -44,6 +44,22 @@ TEST_F(The_Stairs, join_neighbours_that_differ) {
     EXPECT_EQ(Drawn(Osc_Line1[18]), Drawn(Aside)) << "nothing stands before the first point";
 }
 
+TEST_F(The_Stairs, move_up_and_down_only) {
+    for (int preset = 0; preset < 10; ++preset) {
+        Osc_Wave_Click(preset);
+        for (int i = 0; i < 18; ++i) {
+            const Osc_Line& level = Osc_Line1[static_cast<std::size_t>(i)];
+            const int row = Osc_Out[static_cast<std::size_t>(i)];
+            EXPECT_EQ(level, (Osc_Line{7 * i, row, 7 * i + 7, row})) << preset << ' ' << i;
+            if (i == 0) continue;
+            const Osc_Line& upright = Osc_Line1[static_cast<std::size_t>(18 + i)];
+            const int before = Osc_Out[static_cast<std::size_t>(i - 1)];
+            EXPECT_EQ(upright, before == row ? Aside : (Osc_Line{7 * i, before, 7 * i, row}))
+                << preset << ' ' << i;
+        }
+    }
+}
+
 TEST_F(The_Stairs, put_a_joint_aside_when_its_neighbours_become_equal) {
     Osc_Wave_Click(7);
     for (std::size_t i = 19; i < 36; ++i) EXPECT_LT(Osc_Line1[i].x1, 127);
@@ -200,6 +216,19 @@ TEST_F(The_Stairs, mark_a_curve_as_drawn_by_hand_at_the_release) {
     EXPECT_EQ(Presets_Lit(), (Rows{0, 0, 0, 0, 3, 0, 0, 0, 0, 0}));
     Osc_Picture1_MouseUp();
     EXPECT_EQ(Presets_Lit(), (Rows{0, 0, 0, 0, 0, 0, 0, 0, 2, 0}));
+}
+
+TEST_F(The_Stairs, are_marked_as_drawn_by_any_release_also_of_a_pointer_that_drew_nothing) {
+    const Rows marked = {0, 0, 0, 0, 0, 0, 0, 0, 2, 0};
+    Osc_Wave_Click(4);
+    Osc_Picture1_MouseDown(Osc_Right_Button, 3, 3);
+    Osc_Picture1_MouseUp();
+    EXPECT_EQ(Presets_Lit(), marked);
+    Osc_Wave_Click(4);
+    Osc_VScrollA_Change(0);
+    Dot(3, 3);
+    EXPECT_EQ(Presets_Lit(), marked);
+    EXPECT_EQ(Out(), Rows(18, 63));
 }
 
 TEST_F(The_Stairs, are_not_sent_while_they_are_drawn) {

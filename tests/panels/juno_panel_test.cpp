@@ -329,6 +329,23 @@ TEST_F(Juno_Panel_Played, moves_the_bender_by_two_pixels_a_step_and_shows_its_nu
     EXPECT_EQ(At("Bender_Range").top, 298);
 }
 
+TEST_F(Juno_Panel_Played, shows_the_benders_number_at_a_key_without_a_meaning_and_sends_nothing) {
+    Juno_Data[35] = 7;
+    Key("Bender_Range", Key_Left);
+    EXPECT_EQ(At("Bender_Range").top, 322 - 14);
+    EXPECT_EQ(Shown(), "7");
+    EXPECT_TRUE(Timer_Display.enabled);
+    EXPECT_EQ(Sent(), Lines{});
+    EXPECT_EQ(Tone_Saved, Flag_16::True);
+}
+
+TEST_F(Juno_Panel_Played, does_not_show_its_envelope_at_the_bender) {
+    Focus("Bender_Range");
+    Drag("Bender_Range", -20);
+    Key("Bender_Range", Key_Up);
+    EXPECT_FALSE(PictureEnv.visible);
+}
+
 // -- what is shown ---------------------------------------------------------------------------------------
 
 TEST_F(Juno_Panel_Played, shows_a_value_for_two_seconds_from_the_last_change) {

@@ -12,6 +12,7 @@
 #include "synth/patch_mks70.h"
 #include "synth/profile.h"
 #include "synth/random_tone.h"
+#include "synth/syx_file.h"
 #include "synth/tone.h"
 #include "synth/undo.h"
 
@@ -252,11 +253,23 @@ TEST_F(The_MKS_70_Patch_Window, steps_the_detune_of_the_tone_on_show_by_key) {
         int key;
         int before, after;
     };
-    const Row rows[] = {{Key_Up, 64, 65},        {Key_Right, 64, 65},     {Key_Keypad_Plus, 64, 65},
-                        {Key_Down, 64, 63},      {Key_Left, 64, 63},      {Key_Keypad_Minus, 64, 63},
-                        {Key_Page_Up, 64, 74},   {Key_Page_Down, 64, 54}, {Key_Home, 64, 127},
-                        {Key_End, 64, 0},        {Key_0, 90, 63},         {Key_Keypad_0, 90, 63},
-                        {Key_Page_Up, 120, 127}, {Key_Page_Down, 3, 0},   {Key_Down, 0, 0}};
+    const Row rows[] = {{Key_Up, 64, 65},
+                        {Key_Right, 64, 65},
+                        {Key_Keypad_Plus, 64, 65},
+                        {Key_Down, 64, 63},
+                        {Key_Left, 64, 63},
+                        {Key_Keypad_Minus, 64, 63},
+                        {Key_Page_Up, 64, 74},
+                        {Key_Page_Down, 64, 54},
+                        {Key_Home, 64, 127},
+                        {Key_End, 64, 0},
+                        {Key_0, 90, 63},
+                        {Key_Keypad_0, 90, 63},
+                        {Key_Page_Up, 120, 127},
+                        {Key_Page_Down, 3, 0},
+                        {Key_Down, 0, 0},
+                        {65, 64, 64},
+                        {255, 64, 64}};
     for (const auto& [tone, cell, other] : {std::tuple{"Tone_A", 32U, 41U}, {"Tone_B", 41U, 32U}}) {
         hand_.Click(tone);
         Patch_MKS70_Data[other] = 99;
@@ -376,6 +389,24 @@ TEST_F(The_MKS_70_Patch_Window, has_a_record_that_no_tone_and_no_undo_touches) {
     EXPECT_EQ(Patch_MKS70_Data[0], 77);
     EXPECT_EQ(Patch_MKS70_Data[64], 77);
     EXPECT_EQ(Patch_Name_Text, "") << "New empties the name alone";
+}
+
+TEST_F(The_MKS_70_Patch_Window, has_a_record_that_goes_into_no_message_and_no_file) {
+    Synthesizer = "MKS-70";
+    Sysex_Headers_Update();
+    const auto Sent_And_Saved = [] {
+        Sent();
+        Tone_Send();
+        Lines all = Sent();
+        const std::size_t size = SYX_Image_Build();
+        all.emplace_back(SYX_Image.begin(), SYX_Image.begin() + static_cast<std::ptrdiff_t>(size));
+        return all;
+    };
+    Patch_MKS70_Data.fill(0);
+    const Lines before = Sent_And_Saved();
+    EXPECT_EQ(before.size(), 2U);
+    Patch_MKS70_Data.fill(77);
+    EXPECT_EQ(Sent_And_Saved(), before);
 }
 
 using The_MKS_70 = Started_Stage;

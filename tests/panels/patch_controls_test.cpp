@@ -270,10 +270,10 @@ TEST_F(Patch_Controls_By_Hand, turn_the_detune_by_key_on_body_and_dot_alike) {
         const char* shown;
     };
     const Row rows[] = {{Key_Up, 64, 65, "1"},
-                        {Key_Right, 64, 65, "1"},
                         {Key_Keypad_Plus, 64, 65, "1"},
                         {Key_Down, 64, 63, "0"},
-                        {Key_Left, 64, 63, "0"},
+                        {Key_Right, 90, 90, "20"},  // no step here, but it sends
+                        {Key_Left, 90, 90, "20"},
                         {Key_Keypad_Minus, 64, 63, "0"},
                         {Key_Page_Up, 64, 74, "8"},
                         {Key_Page_Down, 64, 54, "-7"},

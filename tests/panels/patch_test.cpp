@@ -6,10 +6,13 @@
 #include "fakes/hand.h"
 #include "fakes/stage.h"
 #include "midi/out.h"
+#include "shell/frame.h"
 #include "synth/messages.h"
 #include "synth/patch.h"
 #include "synth/random_tone.h"
+#include "synth/syx_file.h"
 #include "synth/tone.h"
+#include "synth/tone_files.h"
 #include "synth/undo.h"
 #include "synth/views.h"
 
@@ -339,6 +342,36 @@ TEST_F(The_Patch_Window, sends_nothing_while_sending_is_off_and_keeps_the_value)
     MIDI_Enabled = 0;
     hand_.Key("Portamento_Time", Key_End);
     EXPECT_TRUE(Sent().empty());
+}
+
+TEST_F(The_Patch_Window, has_changes_that_the_end_of_the_program_asks_about) {
+    hand_.Click("Key_Mode_2");
+    Answer_With("Save actual TONE first?", Answer::Cancel);
+    EXPECT_FALSE(Main_Close());
+    EXPECT_FALSE(Patch.loaded) << "the end closes it before it asks";
+    EXPECT_EQ(Patch_Data[3], 2);
+}
+
+TEST_F(The_Patch_Window, follows_a_file_that_is_opened_and_none_that_is_only_looked_at) {
+    const auto Load_With = [](const std::string& patch, const char* mode) {
+        std::string file = "F0 41 35 00 21 20 01 " + std::string(59 * 3, ' ') + "F7 F0 41 36 00 21 30 01 ";
+        for (std::size_t place = 21; place < 21 + 59 * 3; place += 3) file.replace(place, 2, "20");
+        Write(Path("x.syx"), Bytes(file + patch + " F7"));
+        SYX_Load(Path("x.syx"), mode);
+    };
+    Load_With("00 7F 01 7F 02 40 03 03 04 04 05 7F 06 7F", "Open");
+    EXPECT_EQ(Patch_Data, (std::array<std::uint8_t, 9>{127, 127, 64, 3, 4, 127, 127, 0, 0}));
+    EXPECT_EQ(Top("Pitch_Bend_Range"), 28);
+    EXPECT_EQ(Top("Portamento_Time"), 28);
+    EXPECT_EQ(Top("Portamento_Switch"), 133);
+    EXPECT_EQ(Top("Pitch_Bend_LFO"), 28);
+    EXPECT_EQ(Lit(Patch_Key_Mode_Items), std::vector<int>{0}) << "code 3 is no lamp's";
+    EXPECT_EQ(Lit(Patch_After_Touch_Items), std::vector<int>{3});
+    EXPECT_EQ(hand_.At("UDTune_Knopf").left, 15);
+    EXPECT_TRUE(Is_True(Tone_Saved));
+    Load_With("00 00 01 00 02 00 03 06 04 00 05 00 06 40", "Preview");
+    EXPECT_EQ(Top("Portamento_Time"), 28);
+    EXPECT_EQ(Lit(Patch_After_Touch_Items), std::vector<int>{3});
 }
 
 TEST_F(The_Patch_Window, refuses_a_number_that_the_record_does_not_have) {

@@ -1,5 +1,9 @@
 #include "sequencer/seq_files.h"
 
+#include <cerrno>
+
+#include "sequencer/seq_commands.h"
+
 namespace {
 
 std::string Painted;
@@ -346,7 +350,7 @@ TEST_F(SEQ_Saved, comes_back_as_it_was) {
     EXPECT_EQ(Seq_Base_Note, 60);
 }
 
-TEST_F(SEQ_Saved, that_failed_is_told_and_stays_unsaved) {
+TEST_F(SEQ_Saved, that_failed_is_told_by_save_and_stays_unsaved) {
     Menu(Menu_File_Seq_Save).enabled = false;
     struct Row {
         std::string path;
@@ -359,7 +363,7 @@ TEST_F(SEQ_Saved, that_failed_is_told_and_stays_unsaved) {
                            {"/dev/full", "Error 28: No space left on device"}}) {
         Seq_File_Path = row.path;
         Expect_Box(row.text);
-        Seq_Write();
+        File_Seq_Save_Chosen();
         EXPECT_EQ(Boxes.back().icon, Icon::Stop);
         EXPECT_EQ(Seq_Saved, Flag_8::False) << row.path;
         EXPECT_EQ(Recent_Seq(1), "");
@@ -373,6 +377,15 @@ TEST_F(SEQ_Saved, into_a_file_that_may_not_be_written_is_told) {
     const Plain_User user;
     std::filesystem::permissions(Path("new.seq"), std::filesystem::perms::owner_read);
     Expect_Box("Error 13: Permission denied");
-    Seq_Write();
+    File_Seq_Save_Chosen();
     EXPECT_EQ(Seq_Saved, Flag_8::False);
+}
+
+TEST_F(SEQ_Saved, shows_no_failure_itself) {
+    Seq_File_Path = Path("none/x.seq");
+    EXPECT_EQ(Seq_Write(), ENOENT);
+    EXPECT_TRUE(Boxes.empty());
+    EXPECT_EQ(Seq_Saved, Flag_8::False);
+    Seq_File_Path = Path("new.seq");
+    EXPECT_EQ(Seq_Write(), 0);
 }

@@ -1,9 +1,12 @@
+#include "desk/menus.h"
 #include "fakes/juno_stage.h"
+#include "midi/in.h"
 #include "midi/out.h"
 #include "synth/messages.h"
 #include "synth/patch.h"
 #include "synth/profile.h"
 #include "synth/tone.h"
+#include "synth/views.h"
 
 namespace {
 
@@ -124,4 +127,33 @@ TEST_F(Juno_Messages, of_the_whole_tone_are_the_jx_8ps_without_a_patch_header) {
                             "25 26 27 28 29 2A 2B 2C 2D 2E 2F 30 31 32 33 34 35 36 37 38 39 3A 3B "
                             "24 07 "
                             "00 70 01 71 02 72 03 73 04 74 05 75 06 76 F7"});
+}
+
+TEST_F(Juno_Messages, that_come_in_are_taken_for_the_jx_8ps_and_change_its_hidden_panel_alone) {
+    MIDI_In_Open();
+    Juno_Data.fill(2);
+    Juno_To_Panel();
+    const int row = At("VCF_Res").top;
+    const std::string before = Juno_Record();
+    MIDI_Receive_Toggle();
+    MIDI_In_Message(Byte_String(67, '\x7F'));
+    EXPECT_EQ(Juno_Record(), before);
+    EXPECT_EQ(At("VCF_Res").top, row);
+    for (const std::uint8_t byte : Tone_Data) EXPECT_EQ(byte, 0x7F);
+    EXPECT_EQ(Editor_Control("VCF_Res").top, 32);
+    EXPECT_EQ(MIDI_Receiving, 0);
+    EXPECT_FALSE(Editor.visible);
+}
+
+TEST_F(Juno_Messages, of_the_whole_tone_are_sent_from_the_menu_on_the_channel_of_the_moment) {
+    MIDI_Autosend = 0;
+    MIDI_Channel = 16;
+    Juno_Data.fill(0x55);
+    Tone_Data.fill(0x11);
+    Menu(Menu_Tone_Send).chosen();
+    const Lines sent = Sent();
+    ASSERT_EQ(sent.size(), 1U);
+    EXPECT_EQ(sent[0].substr(0, 26), "F0 41 35 0F 23 20 01 11 11");
+    EXPECT_EQ(sent[0].size(), 83U * 3 - 1);
+    EXPECT_TRUE(Editor_Juno.visible);
 }

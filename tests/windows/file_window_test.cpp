@@ -390,6 +390,18 @@ TEST_F(File_Window_On_Screen, stops_waiting_at_cancel) {
     EXPECT_EQ(Sent().back(), "B0 7B 00");
 }
 
+TEST_F(File_Window_On_Screen, opens_by_a_double_click_whose_first_press_still_waits) {
+    Open("Open_SYX", "Autoplay=1\nAutosend=1\n");
+    QTimer::singleShot(100, window_.get(), [&] { Double_Click_Row("FD_List_Files", 1); });
+    QElapsedTimer clock;
+    clock.start();
+    Press_Row("FD_List_Files", 1);
+    EXPECT_LT(clock.elapsed(), 1500);
+    EXPECT_EQ(Tone_File_Name, Disk("Bass.syx"));
+    EXPECT_FALSE(Widget("File_Dlg")->isVisible());
+    EXPECT_EQ(Sent().back(), "B0 7B 00") << "and no note behind it";
+}
+
 // -- the question for a text -----------------------------------------------------------------------------
 
 TEST_F(File_Window_On_Screen, asks_for_a_folders_name_above_everything) {
