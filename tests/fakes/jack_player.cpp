@@ -7,11 +7,11 @@
 // are played, as many a period as there is room for, and "played" is printed. Ends when it is asked to.
 #include <jack/jack.h>
 #include <jack/midiport.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <fstream>
 #include <iterator>
@@ -63,6 +63,8 @@ std::vector<Event> Events_In(const char* path) {
     return events;
 }
 
+volatile std::sig_atomic_t Asked_To_End = 0;
+
 void Sleep() {
     std::this_thread::sleep_for(std::chrono::milliseconds(5));
 }
@@ -71,6 +73,7 @@ void Sleep() {
 
 int main(int count, char** arguments) {
     if (count < 3) return 2;
+    std::signal(SIGTERM, [](int) { Asked_To_End = 1; });
     static Player player;
     player.events = Events_In(arguments[2]);
     jack_client_t* const client = jack_client_open(arguments[1], JackNoStartServer, nullptr);
@@ -80,10 +83,12 @@ int main(int count, char** arguments) {
     if (player.port == nullptr || jack_activate(client) != 0) return 1;
     if (count > 3 && jack_connect(client, jack_port_name(player.port), arguments[3]) != 0) return 1;
 
-    while (jack_port_connected(player.port) <= 0) Sleep();
+    while (jack_port_connected(player.port) <= 0 && !Asked_To_End) Sleep();
     player.playing = true;
-    while (player.next < player.events.size()) Sleep();
+    while (player.next < player.events.size() && !Asked_To_End) Sleep();
     std::puts("played");
     std::fflush(stdout);
-    for (;;) pause();
+    // A client that goes without a word makes the server stand still.
+    while (!Asked_To_End) Sleep();
+    jack_client_close(client);
 }
