@@ -35,7 +35,7 @@ void Send_Step() {
     for (int row = 0; row < Seq_Rows; ++row) {
         // A send that fails switches MIDI off; the rows behind it would each give a box of their own.
         if (MIDI_Enabled != 1) return;
-        Seq_SendNote(Seq_Row_Note(row), Seq_Notes[static_cast<std::size_t>(Seq_Pos * Seq_Rows + row)]);
+        Seq_SendNote(Seq_Row_Note(row), Seq_Notes[Seq_Cell(Seq_Pos, row)]);
     }
 }
 

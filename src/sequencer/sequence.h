@@ -56,6 +56,10 @@ void Seq_New_Reset();
 // A sequence was loaded or edited, so that a start has something to play.
 bool Seq_Ready();
 
+inline std::size_t Seq_Cell(int step, int row) {
+    return static_cast<std::size_t>(step) * Seq_Rows + static_cast<std::size_t>(row);
+}
+
 // The note that a row sounds.
 inline std::int16_t Seq_Row_Note(int row) {
     return static_cast<std::int16_t>(Seq_Base_Note + Seq_Rows - 1 - row);

@@ -306,7 +306,7 @@ void Seq_Matrix_MouseDown(Mouse_Button button, double x, double y) {
     const int column = static_cast<int>(Round_Half_Even(x)) / Seq_Pitch;
     const int row = static_cast<int>(Round_Half_Even(y)) / Seq_Pitch;
     if (column < 0 || column >= Seq_Steps || row < 0 || row >= Seq_Rows) return;
-    const auto cell = static_cast<std::size_t>(column * Seq_Rows + row);
+    const auto cell = Seq_Cell(column, row);
     std::int16_t& velocity = Seq_Notes[cell];
     if (button == Mouse_Button::Left) {
         velocity = velocity >= Seq_Loud ? 0 : Seq_Loud;
