@@ -343,7 +343,9 @@ TEST_F(Midi_Input_On_Jack, ends_although_the_server_has_died) {
     while (Port_In_Present(handle_) && Clock::now() < begin + Patience) std::this_thread::sleep_for(10ms);
     EXPECT_EQ(Port_In_Reset(handle_), Port_Gone);
     EXPECT_EQ(Port_In_Close(handle_), Port_Ok);
-    EXPECT_EQ(Port_In_Open(0, handle_), Port_No_Driver);
+    // Its clients may find it gone, or for a moment only standing still.
+    const Port_Result again = Port_In_Open(0, handle_);
+    EXPECT_TRUE(again == Port_No_Driver || again == Port_Failed) << again;
     EXPECT_LT(Clock::now() - begin, Patience);
     player_->Kill();
 
