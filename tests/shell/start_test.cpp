@@ -1,4 +1,6 @@
 // The start-up in its fixed order, and the state that it leaves.
+#include <fstream>
+
 #include "desk/menus.h"
 #include "desk/screen.h"
 #include "desk/settings.h"
@@ -359,4 +361,33 @@ TEST(Program_Before_Its_Start, holds_these_values) {
     EXPECT_EQ(Seq_Running, Flag_8::False);
     EXPECT_EQ(Seq_Loaded, Flag_8::False);
     EXPECT_EQ(Seq_Pos, 0);
+}
+
+// -- the sequence of the last time
+// ---------------------------------------------------------------------------
+
+TEST_F(Start_Up, loads_the_first_recent_sequence_when_that_is_wanted) {
+    const std::string path = Test_Folder() + "/Bass.seq";
+    std::string bytes = "SEQ1\x3C\x24";
+    bytes.append(104, '\0');
+    bytes[6] = '\x7F';
+    std::ofstream(path, std::ios::binary) << bytes;
+    Write_Settings(std::string(Both_Configured) + "Sequence Preload=1\n[Recent Files]\nSequence1=" + path +
+                   "\n");
+    EXPECT_TRUE(Main_Load());
+    EXPECT_EQ(Seq_Loaded, Flag_8::True);
+    EXPECT_EQ(Seq_Saved, Flag_8::True);
+    EXPECT_EQ(Seq_Notes[0], 127);
+    EXPECT_EQ(Seq_Base_Note, 36);
+    EXPECT_EQ(Seq_Tmr.interval, 125);
+    EXPECT_TRUE(Menu(Menu_File_Seq_Save).enabled);
+    EXPECT_TRUE(Boxes.empty());
+}
+
+TEST_F(Start_Up, says_nothing_when_the_wanted_sequence_has_gone) {
+    Write_Settings(std::string(Both_Configured) +
+                   "Sequence Preload=1\n[Recent Files]\nSequence1=" + Test_Folder() + "/Gone.seq\n");
+    EXPECT_TRUE(Main_Load());
+    EXPECT_EQ(Seq_Loaded, Flag_8::False);
+    EXPECT_TRUE(Boxes.empty());
 }
