@@ -18,7 +18,7 @@ add() {
     missing=$(ldd "$folder/tonebench" 2>&1 | sed -n 's/^[[:space:]]*\([^ ]*\) => not found.*/\1/p' | sort -u | tr '\n' ' ')
     [ -z "$missing" ] || echo "Tonebench will not start yet, this system lacks: $missing(README.txt names the packages)" >&2
     mkdir -p "$data/applications" "$data/icons"
-    cp -R "$folder/share/icons/hicolor" "$data/icons/"
+    cp -R "$folder/lib/share/icons/hicolor" "$data/icons/"
     while IFS= read -r line; do
         case $line in
         Exec=*)
@@ -28,7 +28,7 @@ add() {
             ;;
         *) printf '%s\n' "$line" ;;
         esac
-    done <"$folder/share/applications/$name.desktop" >"$entry.new"
+    done <"$folder/lib/share/applications/$name.desktop" >"$entry.new"
     mv "$entry.new" "$entry"
     touch "$data/icons/hicolor"
     echo "Tonebench is in the menu now and starts from $folder"
