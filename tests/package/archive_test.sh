@@ -10,10 +10,10 @@ id=io.github.tonebench.Tonebench
 
 work=$(mktemp -d "${TMPDIR:-/tmp}/tonebench-archive-XXXXXX")
 end() {
-    kill "${program-}" 2>/dev/null || true
-    kill $(jobs -p) ${screen-} 2>/dev/null || true
-    sleep 0.5
-    kill -KILL $(jobs -p) 2>/dev/null || true
+    kill ${program-} 2>/dev/null || true
+    # A server that outlives its clients cleans up behind them.
+    kill ${witness-} ${sender-} 2>/dev/null && wait $witness $sender 2>/dev/null || true
+    kill ${server-} ${screen-} 2>/dev/null && wait ${server-} 2>/dev/null || true
     chmod -R u+w "$work"
     rm -rf "$work"
 }
@@ -75,12 +75,14 @@ exec 3< <(exec Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp 2>/dev/nul
 screen=$!
 read -r -t 30 display <&3 || fail "no virtual screen"
 export DISPLAY=:$display
-start_server() { jackd -r -n "$JACK_DEFAULT_SERVER" -d dummy -r 48000 -p 256 >/dev/null 2>&1 8>&- & }
 answers() { jack_lsp 2>/dev/null | grep -qx "${1:-witness:input}"; }
-start_server
+jackd -r -n "$JACK_DEFAULT_SERVER" -d dummy -r 48000 -p 256 >/dev/null 2>&1 8>&- &
+server=$!
 wait_for jack_lsp
 stdbuf -oL jack_midi_dump witness >"$work/witnessed" 2>/dev/null 8>&- &
+witness=$!
 jack_midiseq sender 48000 0 60 8000 >/dev/null 2>&1 8>&- &
+sender=$!
 wait_for answers
 wait_for answers sender:out
 
