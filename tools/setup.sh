@@ -25,7 +25,7 @@ test_packages=(
 )
 
 # What the portable archive needs besides the build: what it carries, and what puts it together.
-archive_packages=(qt6-wayland patchelf xz-utils)
+archive_packages=(qt6-wayland patchelf xz-utils python3-markdown)
 
 # Installs those of the named packages that are missing.
 install_missing() {

@@ -48,13 +48,13 @@ for file in tonebench JX8P.FNT README.txt LICENSE menu.sh docs/licences/Apache-2
     [ -e "$folder/$file" ] || fail "the archive lacks $file"
 done
 [ ! -e "$folder/lib/libjack.so.0" ] && [ ! -e "$folder/lib/libc.so.6" ] || fail "the archive carries what is the system's"
-# A picture that a page of the guide shows came along.
-for page in "$folder"/docs/guide/*.md; do
-    [ -e "$page" ] || continue
-    grep -oE '\]\([^):]+\.(png|svg|md)' "$page" | sed 's/^](//' | while read -r target; do
-        [ -e "${page%/*}/$target" ] || fail "$page shows $target, which is not there"
+# What a page of the guide shows or leads to came along.
+[ -e "$folder/docs/guide/index.html" ] || fail "the archive lacks the guide"
+grep -ohE '(src|href)="[^":]+"' "$folder"/docs/guide/*.html | sed 's/^[a-z]*="//; s/"$//' | sort -u |
+    while IFS='#' read -r file anchor; do
+        [ -z "$file" ] || [ -e "$folder/docs/guide/$file" ] || fail "the guide lacks $file"
+        [ -z "$anchor" ] || grep -q "id=\"$anchor\"" -r "$folder/docs/guide/$file" || fail "$file has no $anchor"
     done
-done
 
 say "its entries are valid"
 desktop-file-validate "$folder/lib/share/applications/$id.desktop" || fail "the desktop's entry is not valid"
