@@ -17,12 +17,14 @@ argument() { value "$(printf '%s' "$1" | sed 's/[\\"`$]/\\&/g; s/%/%%/g')"; }
 add() {
     missing=$(ldd "$folder/tonebench" 2>&1 | sed -n 's/^[[:space:]]*\([^ ]*\) => not found.*/\1/p' | sort -u | tr '\n' ' ')
     [ -z "$missing" ] || echo "Tonebench will not start yet, this system lacks: $missing(README.txt names the packages)" >&2
+    # Some desktops look for the command before they make one per cent sign of two; env they find.
+    case $folder in *%*) by='env ' ;; *) by= ;; esac
     mkdir -p "$data/applications" "$data/icons"
     cp -R "$folder/lib/share/icons/hicolor" "$data/icons/"
     while IFS= read -r line; do
         case $line in
         Exec=*)
-            printf 'Exec="%s"\n' "$(argument "$folder/tonebench")"
+            printf 'Exec=%s"%s"\n' "$by" "$(argument "$folder/tonebench")"
             printf 'TryExec=%s\n' "$(value "$folder/tonebench")"
             printf 'Path=%s\n' "$(value "$folder")"
             ;;

@@ -218,7 +218,7 @@ before=$(cd "$home" && find . -type f | sort)
 entry=$home/.local/share/applications/$id.desktop
 "$folder/menu.sh" add >/dev/null
 desktop-file-validate "$entry" || fail "the menu's entry is not valid"
-same "the command in the menu" 'Exec="'"$home"'/Own \\"best\\" \\$Tones \\\\ 100%%/'"${folder##*/}"'/tonebench"' \
+same "the command in the menu" 'Exec=env "'"$home"'/Own \\"best\\" \\$Tones \\\\ 100%%/'"${folder##*/}"'/tonebench"' \
     "$(grep '^Exec=' "$entry")"
 same "the folder in the menu" "Path=$home/"'Own "best" $Tones \\ 100%/'"${folder##*/}" "$(grep '^Path=' "$entry")"
 cmp "$folder/lib/share/icons/hicolor/48x48/apps/$id.png" "$home/.local/share/icons/hicolor/48x48/apps/$id.png" ||
