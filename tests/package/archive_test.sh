@@ -48,6 +48,8 @@ for file in tonebench JX8P.FNT README.txt LICENSE menu.sh docs/licences/Apache-2
     [ -e "$folder/$file" ] || fail "the archive lacks $file"
 done
 [ ! -e "$folder/lib/libjack.so.0" ] && [ ! -e "$folder/lib/libc.so.6" ] || fail "the archive carries what is the system's"
+# File managers start an executable (2) by a double click, but no position-independent one (3).
+same "kind of the program" 02 "$(od -An -tx1 -j16 -N1 "$folder/tonebench" | tr -d ' ')"
 # What a page of the guide shows or leads to came along.
 [ -e "$folder/docs/guide/index.html" ] || fail "the archive lacks the guide"
 grep -ohE '(src|href)="[^":]+"' "$folder"/docs/guide/*.html | sed 's/^[a-z]*="//; s/"$//' | sort -u |
