@@ -1,5 +1,6 @@
 // The entry: puts the program together, starts it and runs its events.
 #include <QApplication>
+#include <csignal>
 #include <cstdio>
 
 #include "desk/windows.h"
@@ -19,6 +20,8 @@ App_Window* The_Window = nullptr;
 }  // namespace
 
 int main(int argument_count, char** arguments) {
+    // A user whose files are limited in size is told like one whose disk is full.
+    std::signal(SIGXFSZ, SIG_IGN);
     QApplication application(argument_count, arguments);
     QApplication::setApplicationName("Tonebench");
     Style_Install();

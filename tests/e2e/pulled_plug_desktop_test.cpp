@@ -236,3 +236,30 @@ TEST_F(A_Pulled_Plug_On_The_Desktop, under_the_running_oscillator_is_told_once_a
     EXPECT_GE(Witnessed(2).size(), 2U) << "it steps on";
     Expect_End(nullptr);
 }
+
+TEST_F(A_Pulled_Plug_On_The_Desktop,
+       of_a_disk_that_takes_nothing_more_is_told_and_the_program_can_be_left) {
+    Start_Jack();
+    const std::string settings = "[MIDI]\nOutput=witness:input\nInput=sender:out\n";
+    std::ofstream(folder_ / "Tonebench.INI", std::ios::binary) << settings;
+    program_ =
+        std::make_unique<Child_Process>(Lines{"prlimit", "--fsize=0", (folder_ / "tonebench").string()});
+    Wait_For_Main_Window();
+    panel_ = Menu_Height();
+    Click_On_Panel(Resonance_X, Resonance_Top + 5);
+    Press_Key("Home");
+    ASSERT_EQ(Witnessed(2).size(), 2U);
+    for (const char* key : {"alt+f", "t", "a"}) {
+        Press_Key(key);
+        std::this_thread::sleep_for(300ms);
+    }
+    ASSERT_TRUE(Wait_For_Focus("Save Tone File"));
+    Xdotool({"type", "new"});
+    Press_Key("Return");
+    Expect_Told("Save Tone File");
+    Press_Key("Escape");
+    ASSERT_TRUE(Wait_For_Focus("Tonebench"));
+    Expect_End("alt+n");
+    EXPECT_EQ(Settings(), settings);
+    EXPECT_FALSE(std::filesystem::exists(folder_ / "new.syx"));
+}
