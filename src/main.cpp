@@ -1,5 +1,6 @@
 // The entry: puts the program together, starts it and runs its events.
 #include <QApplication>
+#include <csignal>
 #include <cstdio>
 
 #include "desk/windows.h"
@@ -22,6 +23,8 @@ App_Window* The_Window = nullptr;
 int main(int argument_count, char** arguments) {
     // The places of the windows are settings, and only X lets a program place its windows.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+    // A user whose files are limited in size is told like one whose disk is full.
+    std::signal(SIGXFSZ, SIG_IGN);
     QApplication application(argument_count, arguments);
     QApplication::setApplicationName("Tonebench");
     // The desktop's entry of that name gives the windows their icon and their place in its bar.
