@@ -15,6 +15,20 @@ inline void Check(bool holds, const char* file = __builtin_FILE(), int line = __
     std::abort();
 }
 
+// The same for two texts, which are printed: what is, and what should be.
+inline void Check_Equal(std::string_view is, std::string_view expected, const char* file = __builtin_FILE(),
+                        int line = __builtin_LINE()) {
+    if (is == expected) return;
+    for (const std::string_view text : {is, expected}) {
+        for (const char letter : text) {
+            const bool plain = letter >= ' ' && letter <= '~';
+            std::fprintf(stderr, plain ? "%c" : "<%02X>", static_cast<unsigned char>(letter));
+        }
+        std::fprintf(stderr, "\n");
+    }
+    Check(false, file, line);
+}
+
 // The bytes of an input as choices, the first ones first. Behind its end every choice is 0.
 class Feed {
   public:

@@ -5,19 +5,18 @@
 //   byte 0   1 MIDI on, 2 automatic sending before, 4 not in receive mode, 8 Alpha Juno
 //   then     steps: what comes in, and when the interface looks at it
 #include <algorithm>
+#include <array>
 #include <deque>
-#include <memory>
 #include <utility>
 
 #include "desk/menus.h"
 #include "desk/windows.h"
 #include "feed.h"
+#include "input_port.h"
 #include "midi/in.h"
 #include "midi/out.h"
 #include "panels/receive_mode.h"
-#include "platform/message_ring.h"
 #include "platform/midi_port.h"
-#include "platform/port_blocks.h"
 #include "platform/sysex_pieces.h"
 #include "sequencer/sequence.h"
 #include "shell/wiring.h"
@@ -29,21 +28,7 @@
 
 namespace {
 
-constexpr std::size_t Ring_Bytes = 8192;
 constexpr std::size_t Dump_Size = 67;
-
-// -- a port without a service ----------------------------------------------------------------------------
-
-struct Input {
-    Sysex_Pieces pieces{Port_In_Longest};
-    Message_Ring arrived{Ring_Bytes};
-    bool refused = false;
-    std::deque<Block_Address> buffers;
-    std::string message;
-};
-std::unique_ptr<Input> Open_Input;
-constexpr Port_Handle The_Input = 1;
-bool Device_There = true;
 
 // -- a second reading ------------------------------------------------------------------------------------
 
@@ -100,30 +85,21 @@ struct World {
 };
 
 void Arrive(World& world, std::uint8_t byte) {
-    if (Open_Input != nullptr) {
-        Input& input = *Open_Input;
-        const Sysex_Pieces::Found found = input.pieces.Take(byte);
-        if (found != Sysex_Pieces::Found::Nothing) {
-            const bool kept =
-                found == Sysex_Pieces::Found::Message && input.arrived.Put(input.pieces.Message());
-            if (!kept) input.refused = true;
-        }
-        if (world.reader.Take(byte)) {
-            const std::string& message = world.reader.message;
-            const bool fits = world.held + 4 + message.size() <= Ring_Bytes;
-            if (world.reader.too_long || !fits) {
-                Check(found == (world.reader.too_long ? Sysex_Pieces::Found::Refused
-                                                      : Sysex_Pieces::Found::Message));
-                world.refused = true;
-            } else {
-                Check(found == Sysex_Pieces::Found::Message && input.pieces.Message() == message);
-                world.waiting.push_back(message);
-                world.held += 4 + message.size();
-            }
-        } else {
-            Check(found == Sysex_Pieces::Found::Nothing);
-        }
+    if (!Input_Is_Open()) return;
+    const Sysex_Pieces::Found found = Input_Arrive(byte);
+    if (!world.reader.Take(byte)) {
+        Check(found == Sysex_Pieces::Found::Nothing);
+        return;
     }
+    const std::string& message = world.reader.message;
+    Check(found == (world.reader.too_long ? Sysex_Pieces::Found::Refused : Sysex_Pieces::Found::Message));
+    if (world.reader.too_long || world.held + 4 + message.size() > Input_Ring_Bytes) {
+        world.refused = true;
+        return;
+    }
+    Check(Input_Message() == message);
+    world.waiting.push_back(message);
+    world.held += 4 + message.size();
 }
 
 // What waits in the port goes with it. A device that has gone says so.
@@ -131,7 +107,7 @@ void Close(World& world) {
     world.receiving = false;
     world.waiting.clear();
     world.held = 0;
-    if (!Device_There) ++world.boxes;
+    if (!Input.device_there) ++world.boxes;
 }
 
 // Stores whatever has come; a whole tone ends the reception, and begins one outside of it. False when that
@@ -150,7 +126,7 @@ bool Take_Over(World& world, const std::string& message, bool open) {
 
 // The interface looks at the port.
 void Look(World& world) {
-    bool open = Open_Input != nullptr;
+    bool open = Input_Is_Open();
     bool more = true;
     while (open && more) {
         // Two are fetched at a time, and both are handed over, also when the first one closes the port.
@@ -165,12 +141,12 @@ void Look(World& world) {
         // One box for all that were refused until now.
         if (open && std::exchange(world.refused, false)) ++world.boxes;
     }
-    if (open && !Device_There) {
+    if (open && !Input.device_there) {
         Close(world);
         open = false;
     }
     MIDI_In_Arrived();
-    Check((Open_Input != nullptr) == open);
+    Check((Input_Is_Open()) == open);
 }
 
 void Step(Feed& feed, World& world) {
@@ -187,60 +163,18 @@ void Step(Feed& feed, World& world) {
         if (step == 3) Arrive(world, feed.Byte());
         Arrive(world, 0xF7);
     } else if (step == 4) {
-        // Much of the same.
+        // Much of the same, now and then more than any message may have.
         const std::uint8_t byte = feed.Byte();
-        for (int left = 16 * feed.Byte(); left > 0; --left) Arrive(world, byte);
+        const int count = feed.Byte();
+        for (int left = count == 255 ? 4200 : count; left > 0; --left) Arrive(world, byte);
     } else if (step == 5 && feed.Below(16) == 0) {
-        Device_There = false;
+        Input.device_there = false;
     } else {
         Look(world);
     }
 }
 
 }  // namespace
-
-std::vector<std::string> Port_In_Names() {
-    return {"In"};
-}
-Port_Result Port_In_Open(int, Port_Handle& handle) {
-    Open_Input = std::make_unique<Input>();
-    handle = The_Input;
-    return Port_Ok;
-}
-Port_Result Port_In_Prepare(Port_Handle, Block_Address header) {
-    const auto* const record = Block_Record<Port_In_Header>(header);
-    Check(record != nullptr && Block_At(record->data).size() == Port_In_Longest);
-    return Port_Ok;
-}
-Port_Result Port_In_Add_Buffer(Port_Handle, Block_Address header) {
-    Check(Open_Input->buffers.size() < 4);
-    Open_Input->buffers.push_back(header);
-    return Port_Ok;
-}
-Block_Address Port_In_Next(Port_Handle) {
-    Input& input = *Open_Input;
-    if (input.buffers.empty() || !input.arrived.Take(input.message)) return 0;
-    const Block_Address address = input.buffers.front();
-    input.buffers.pop_front();
-    auto& header = *Block_Record<Port_In_Header>(address);
-    std::copy(input.message.begin(), input.message.end(), Block_At(header.data).begin());
-    header.bytes = static_cast<std::uint32_t>(input.message.size());
-    return address;
-}
-bool Port_In_Refused(Port_Handle) {
-    return Open_Input != nullptr && std::exchange(Open_Input->refused, false);
-}
-bool Port_In_Present(Port_Handle) {
-    return Device_There;
-}
-Port_Result Port_In_Reset(Port_Handle) {
-    Open_Input->buffers.clear();
-    return Device_There ? Port_Ok : Port_Gone;
-}
-Port_Result Port_In_Close(Port_Handle) {
-    Open_Input = nullptr;
-    return Port_Ok;
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const bool wired = [] {
@@ -254,7 +188,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::uint8_t options = feed.Byte();
     Stand_Begin();
     Stand.port_opens = true;
-    Device_There = true;
+    Input.device_there = true;
     MIDI_Enabled = options & 1U;
     MIDI_Autosend = (options & 2U) != 0 ? 1 : 0;
     Synthesizer = (options & 8U) != 0 ? "Alpha Juno" : "JX-8P";
@@ -283,7 +217,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // The way out without a tone.
     if (MIDI_Receiving != 0) MIDI_Receive_Toggle();
     MIDI_In_Close();
-    Check(Open_Input == nullptr && MIDI_In_Handle == Port_Closed && MIDI_Autosend == autosend);
+    Check(!Input_Is_Open() && MIDI_In_Handle == Port_Closed && MIDI_Autosend == autosend);
     for (const MIDI_In_Buffer& buffer : MIDI_In_Buffers) Check(buffer.data == 0 && buffer.header == 0);
     Check(Stand.sent.empty() && Stand.shorts == 0);
     Check(Patch_Data == patch && Juno_Data == juno && Seq_Notes == cells);

@@ -59,7 +59,7 @@ bool Event_Loop_Wait(int) {
 }
 
 std::vector<std::string> Port_Out_Names() {
-    return {};
+    return Stand.port_names;
 }
 Port_Result Port_Out_Open(int, Port_Handle& handle) {
     if (!Stand.port_opens) return Port_No_Driver;

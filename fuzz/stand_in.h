@@ -17,6 +17,7 @@ struct Stand_In {
     // What happens while the program waits for an event. False: no window is open any more.
     std::function<bool()> waiting;
 
+    std::vector<std::string> port_names;
     bool port_opens = false;
     std::vector<std::string> sent;  // the long messages
     std::size_t shorts = 0;         // the number of short ones
