@@ -18,6 +18,8 @@ DIR* __real_opendir(const char* path);
 int __real_mkdir(const char* path, mode_t mode);
 int __real_rmdir(const char* path);
 int __real_unlink(const char* path);
+int __real_rename(const char* from, const char* to);
+int __real_mkstemp(char* pattern);
 
 int __wrap_open(const char* path, int flags, ...);
 DIR* __wrap_opendir(const char* path);
@@ -107,14 +109,14 @@ int __wrap_rmdir(const char* path) {
 int __wrap_unlink(const char* path) {
     return Inside(path, false) ? Noted(__real_unlink(path), Disk_Change::Kind::Removed_File, path) : -1;
 }
-// Only the settings are replaced, and these targets have none.
-int __wrap_rename(const char*, const char*) {
-    Check(false);
-    return -1;
+int __wrap_rename(const char* from, const char* to) {
+    if (!Inside(from, false) || !Inside(to, false)) return -1;
+    const int result = Noted(__real_rename(from, to), Disk_Change::Kind::Removed_File, from);
+    return Noted(result, Disk_Change::Kind::Written, to);
 }
-int __wrap_mkstemp(char*) {
-    Check(false);
-    return -1;
+int __wrap_mkstemp(char* pattern) {
+    if (!Inside(pattern, false)) return -1;
+    return Noted(__real_mkstemp(pattern), Disk_Change::Kind::Written, pattern);
 }
 
 const std::string& Fenced_Folder() {

@@ -3,7 +3,9 @@
 // window waits inside itself. Each step may change what it says and nothing else, on the disk and in the
 // records; nothing outside of the folder is ever made, opened for writing or removed (fence.h).
 //
-//   byte 0   the mode; byte 1: 1 MIDI on, 2 automatic sending, 4 preview plays, 8 Alpha Juno, 16 no tone
+//   byte 0   the mode; byte 1: 1 MIDI on, 2 automatic sending, 4 preview plays, 8 Alpha Juno, 16 the tone
+//   is not
+//            saved, 32 a sequence is loaded
 //   then     a length of 0 to 15 and so many answers, then steps
 #include <array>
 #include <map>
@@ -15,6 +17,7 @@
 #include "desk/windows.h"
 #include "feed.h"
 #include "fence.h"
+#include "filedlg/file_controls.h"
 #include "filedlg/file_dlg.h"
 #include "filedlg/file_events.h"
 #include "filedlg/file_ok.h"
@@ -22,6 +25,7 @@
 #include "filedlg/folder_model.h"
 #include "filedlg/input_dlg.h"
 #include "filedlg/linking.h"
+#include "filedlg/preview.h"
 #include "filedlg/state.h"
 #include "midi/out.h"
 #include "platform/files.h"
@@ -306,13 +310,24 @@ void New_Folder(Player& player) {
     if (!changes.empty()) Take_New_Folder(changes, selected, player.answer);
 }
 
+// The drawn buttons, but for those whose steps may change the disk.
+void Push(Control& control) {
+    for (const Drawn_Button* own : {&FD_Button_Ok, &FD_Button_Newdir, &FD_Button_Delete}) {
+        if (&own->button == &control) return;
+    }
+    File_Panel.events.button_pressed(control, Mouse_Button::Left);
+    File_Panel.events.button_released(control, Mouse_Button::Left);
+    File_Panel.events.clicked(control);
+    Check(!File_Panel.spoken_value(control).starts_with(' '));
+}
+
 void Nothing_Changed() {
     Check(Disk_Changes().empty());
 }
 
 void Play(Player& player) {
     Feed& feed = player.feed;
-    switch (feed.Below(16)) {
+    switch (feed.Below(20)) {
         case 0:
         case 1:
         case 2:
@@ -344,6 +359,20 @@ void Play(Player& player) {
             break;
         case 12:
             Delete();
+            break;
+        case 15:
+        case 16:
+            FD_Event([&] { FD_List_Files_MouseDown(feed.Below(8)); });
+            Nothing_Changed();
+            Delete();
+            break;
+        case 17:
+        case 18:
+            Push(*File_Panel.controls[static_cast<std::size_t>(feed.Below(File_Panel.controls.size()))]);
+            break;
+        case 19:
+            FD_Event([&] { FD_SYX_SoundCheck_Note_List_Click(feed.Below(5)); });
+            FD_Event([&] { FD_SYX_SoundCheck_Velocity_List_Click(feed.Below(128)); });
             break;
         case 13:
             FD_Event([&] { FD_List_Filter_Click(feed.Below(3)); });
@@ -402,6 +431,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Juno_Data.fill(0x23);
     Tone_File_Name.clear();
     Seq_New_Reset();
+    Seq_Loaded = (options & 32U) != 0 ? Flag_8::True : Flag_8::False;
     Seq_File_Path.clear();
     Dir_Tones = Dir_Sequences = Dir_Oscillators = Fenced_Folder() + "/disk";
     Stand.answers = feed.Text(15);

@@ -80,17 +80,12 @@ std::optional<std::string> Found(const std::string& path) {
         const bool above = Fenced_Folder().starts_with(next);
         if (!above && !Is_There(next)) {
             std::string other;
-            for (const auto& list : {Folders, [] {
-                                         std::set<std::string> names;
-                                         for (const auto& file : Files) names.insert(file.first);
-                                         return names;
-                                     }()}) {
-                for (const std::string& entry : list) {
-                    if (entry.rfind('/') == found.size() && Same_Text(entry, next) &&
-                        (other.empty() || entry < other))
-                        other = entry;
-                }
-            }
+            const auto look_at = [&](const std::string& entry) {
+                const bool here = entry.starts_with(found) && entry.rfind('/') == found.size();
+                if (here && Same_Text(entry, next) && (other.empty() || entry < other)) other = entry;
+            };
+            for (const std::string& folder : Folders) look_at(folder);
+            for (const auto& file : Files) look_at(file.first);
             if (other.empty()) return std::nullopt;
             next = other;
         }
@@ -159,6 +154,29 @@ void Writing(const std::string& path, std::string_view bytes) {
     }
 }
 
+// The whole file at once, through one beside it that is gone again.
+void Replacing(const std::string& path, std::string_view bytes) {
+    const bool done = File_Replace(path, std::string(bytes));
+    const std::vector<Disk_Change> changes = Disk_Changes();
+    if (!done) {
+        // One that was made and could not take the place was removed.
+        Check(changes.empty() || (changes.size() == 2 && changes[0].path == changes[1].path &&
+                                  changes[1].kind == Disk_Change::Kind::Removed_File));
+        return;
+    }
+    Check(changes.size() == 3 && changes[0].path == changes[1].path);
+    Check(changes[1].kind == Disk_Change::Kind::Removed_File);
+    const std::string& replaced = changes[2].path;
+    Check(changes[0].path.starts_with(replaced) && changes[0].path.size() == replaced.size() + 7);
+    Check(Fenced_Read(replaced) == bytes && !File_Is_Read_Only(replaced));
+    const auto before = Files.find(replaced);
+    if (before == Files.end()) {
+        Check(!Folders.contains(replaced) && File_Delete(replaced) == 0 && Disk_Changes().size() == 1);
+    } else {
+        Fenced_Write(replaced, before->second);
+    }
+}
+
 void Making(const std::string& path) {
     const int error = Folder_Make(Path_Found(path));
     std::vector<Disk_Change> changes = Disk_Changes();
@@ -200,7 +218,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     (void)made;
     const Fence fence;
     Feed feed(data, size);
-    const int what = feed.Below(5);
+    const int what = feed.Below(6);
     const std::string path = Path_Of(feed);
     switch (what) {
         case 0:
@@ -213,6 +231,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             Writing(path, feed.Rest());
             break;
         case 3:
+            Replacing(path, feed.Rest());
+            break;
+        case 4:
             Making(path);
             break;
         default:

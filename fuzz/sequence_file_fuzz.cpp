@@ -128,6 +128,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return true;
     }();
     (void)wired;
+    Stand_Begin();
     Feed feed(data, size);
     const std::uint8_t options = feed.Byte();
     Seq_New_Reset();
@@ -152,6 +153,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto patch = Patch_Data;
     const auto juno = Juno_Data;
 
+    Seq_Load(Path + "x", Seq_Mode_Open);
+    Check_Same(now);
+    Check(Seq_File_Path == "none" && Boxes_With("File not found: " + Path + "x") == 1);
     Load(bytes, "Soundcheck", now);
     Load(bytes, Seq_Mode_Open, now);
     Save_And_Read_Again(bytes, now);

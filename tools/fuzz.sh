@@ -28,10 +28,18 @@ export ASAN_OPTIONS=malloc_context_size=1:quarantine_size_mb=16
 run() {
     local target=$1 log=$build/findings/$1.log dictionary=$here/fuzz/dictionaries/$1.dict options=()
     [ -f "$dictionary" ] && options=(-dict="$dictionary")
+    # Seeds are copied: what is found on the way is not kept.
+    local seeds=$build/fuzz/seeds/$target longest=600 corpus=
+    if [ -d "$seeds" ]; then
+        corpus=$(mktemp -d)
+        cp "$seeds"/* "$corpus"
+        longest=4096
+    fi
     local begin result=0
     begin=$(date +%s.%N)
-    "$build/fuzz/${target}_fuzz" "$limit" "${options[@]}" -max_len=600 -detect_leaks=0 -print_final_stats=1 \
-        -artifact_prefix="$build/findings/$target-" >"$log" 2>&1 || result=1
+    "$build/fuzz/${target}_fuzz" "$limit" "${options[@]}" -max_len=$longest -detect_leaks=0 -print_final_stats=1 \
+        -artifact_prefix="$build/findings/$target-" ${corpus:+"$corpus"} >"$log" 2>&1 || result=1
+    [ -z "$corpus" ] || rm -rf "$corpus"
     local inputs
     inputs=$(sed -n 's/^stat::number_of_executed_units: //p' "$log")
     awk -v target="$target" -v inputs="${inputs:-0}" -v begin="$begin" -v end="$(date +%s.%N)" -v found=$result '
