@@ -10,7 +10,7 @@ set -euo pipefail
 build=$(realpath "$1")
 here=$(realpath "$(dirname "${BASH_SOURCE[0]}")/..")
 if [ "$2" = --runs ]; then
-    limit=-runs=$3 side_by_side=1
+    limit="-runs=$3 -entropic=0" side_by_side=1
     shift 3
 else
     limit=-max_total_time=$2 side_by_side=2
@@ -37,7 +37,7 @@ run() {
     fi
     local begin result=0
     begin=$(date +%s.%N)
-    "$build/fuzz/${target}_fuzz" "$limit" "${options[@]}" -max_len=$longest -detect_leaks=0 -print_final_stats=1 \
+    "$build/fuzz/${target}_fuzz" $limit "${options[@]}" -max_len=$longest -detect_leaks=0 -print_final_stats=1 \
         -artifact_prefix="$build/findings/$target-" ${corpus:+"$corpus"} >"$log" 2>&1 || result=1
     [ -z "$corpus" ] || rm -rf "$corpus"
     local inputs
