@@ -1,5 +1,6 @@
-// Any text as a settings file, with any value for a key: a value that is written comes back, a second write
-// changes nothing, and all other lines stay as they were, byte for byte.
+// Any text as a settings file, with any value for a key: the file reads as a second reading says, a value
+// that is written comes back, a second write changes nothing, and all other lines stay as they were, byte
+// for byte.
 //
 //   a length of 0 to 80 and so many bytes: the value; then the file
 #include <array>
@@ -7,6 +8,7 @@
 #include "feed.h"
 #include "platform/profile_file.h"
 #include "platform/text.h"
+#include "profile_reading.h"
 
 namespace {
 
@@ -19,8 +21,23 @@ constexpr std::array<Key, 4> Keys = {{{"MIDI", "Channel"},
                                       {"Recent Files", "Tone1"},
                                       {"Main Window", "Left"}}};
 
+constexpr const char* Missing = "\x01 missing";
+
 std::string Value(std::string_view text, const Key& key) {
-    return Profile_Value(text, key.section, key.key, "\x01 missing");
+    return Profile_Value(text, key.section, key.key, Missing);
+}
+
+void Check_Reading(std::string_view text) {
+    const Profile profile = Profile_Reading(text);
+    for (const Key& key : Keys) {
+        const auto section = profile.find(Upper_Text(key.section));
+        std::string expected = Missing;
+        if (section != profile.end()) {
+            const auto found = section->second.find(Upper_Text(key.key));
+            if (found != section->second.end()) expected = found->second;
+        }
+        Check_Equal(Value(text, key), expected);
+    }
 }
 
 // A value as it comes back: one line, without blanks at its ends and one pair of quotation marks.
@@ -52,6 +69,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Feed feed(data, size);
     const std::string_view value = feed.Text(80);
     const std::string_view text = feed.Rest();
+    Check_Reading(text);
     for (const Key& key : Keys) {
         const std::string changed = Profile_With_Value(text, key.section, key.key, value);
         Check(Value(changed, key) == As_Stored(value));

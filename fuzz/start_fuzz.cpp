@@ -6,7 +6,6 @@
 //   then     steps: a key with its value, or a line
 #include <array>
 #include <cmath>
-#include <map>
 #include <optional>
 
 #include "desk/folders.h"
@@ -23,6 +22,7 @@
 #include "midi/in.h"
 #include "midi/out.h"
 #include "platform/text.h"
+#include "profile_reading.h"
 #include "sequencer/sequence.h"
 #include "shell/frame.h"
 #include "shell/wiring.h"
@@ -67,42 +67,7 @@ const std::string& Text() {
     return Disk[Settings_Path];
 }
 
-// A second reading of the file: the first section of a name counts, and in it the first key of a name.
-using Profile = std::map<std::string, std::map<std::string, std::string>>;
 Profile Values_Found;
-
-std::string_view Line_Of(std::string_view& text) {
-    const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
-    const std::string_view line = text.substr(0, end);
-    text.remove_prefix(std::min(end + 1, text.size()));
-    return Trimmed(line);
-}
-
-void Read_Values() {
-    Values_Found.clear();
-    std::map<std::string, std::string> keys;
-    std::optional<std::string> section;
-    const auto keep = [&] {
-        if (section) Values_Found.try_emplace(*section, keys);
-        keys.clear();
-    };
-    for (std::string_view rest = Text(); !rest.empty();) {
-        const std::string_view line = Line_Of(rest);
-        const std::size_t close = line.find(']');
-        const std::size_t equals = line.find('=');
-        if (line.starts_with('[') && close != std::string_view::npos) {
-            keep();
-            section = Upper_Text(Trimmed(line.substr(1, close - 1)));
-        } else if (!line.starts_with(';') && equals != std::string_view::npos) {
-            std::string_view value = Trimmed(line.substr(equals + 1));
-            const char first = value.empty() ? ' ' : value.front();
-            if (value.size() > 1 && value.back() == first && (first == '"' || first == '\''))
-                value = value.substr(1, value.size() - 2);
-            keys.try_emplace(Upper_Text(Trimmed(line.substr(0, equals))), value);
-        }
-    }
-    keep();
-}
 
 // As the program sees a value: 63 bytes of it, without blanks.
 std::string Value(const char* section, const std::string& key, const std::string& missing) {
@@ -219,7 +184,7 @@ void Start_And_Check() {
     Settings_Read();
     Check(Text() == before);
 
-    Read_Values();
+    Values_Found = Profile_Reading(Text());
     Check(Main_Window.left == std::max(0, Pixels("Left", "0", 7)));
     Check(Main_Window.top == std::max(0, Pixels("Top", "0", 7)));
     Check(Main_Window.width == Pixels("Width", "541", 7));
