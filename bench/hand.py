@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""A hand on pointer and keys, which notes when it moves, by the clock that JACK and the program count by too.
+"""A hand on pointer and keys, which notes when it moves, by the clock that the witness and the program count by too.
 
 hand.py drag FILE X TOP BOTTOM SECONDS GAP
     presses the left button at X in the row BOTTOM, and drags up and down between that and the row TOP with a step

@@ -5,6 +5,7 @@
 stage=$(mktemp -d)
 bench=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 screen= server= witness= sender= program=
+export XDG_RUNTIME_DIR=$stage
 trap stage_ends EXIT
 
 stage_ends() {
@@ -26,7 +27,7 @@ start_screen() {
 
 # The witness writes what it has heard to $stage/heard.txt when witness_ends is called.
 start_jack() {
-    export JACK_NO_AUDIO_RESERVATION=1 JACK_DEFAULT_SERVER=tonebench-bench-$$ XDG_RUNTIME_DIR=$stage
+    export JACK_NO_AUDIO_RESERVATION=1 JACK_DEFAULT_SERVER=tonebench-bench-$$
     jackd -r -n "$JACK_DEFAULT_SERVER" "$@" -d dummy -r 48000 -p 128 >"$stage/jack.txt" 2>&1 &
     server=$!
     local tries
@@ -64,7 +65,8 @@ write_sequence() {
     } >"$stage/bench.seq"
 }
 
-# start_program PROGRAM [jack]: waits until the panel shows; $menu is then the rows above it.
+# start_program PROGRAM [jack]: waits until the panel shows; $menu is then the rows above it. Without JACK two boxes
+# tell before that there is no MIDI.
 start_program() {
     cp "$1" "$stage/tonebench"
     cp "$build/JX8P.FNT" "$stage"
@@ -80,7 +82,8 @@ start_program() {
     for tries in $(seq 100); do
         menu=$(import -window root -crop 1x100+520+0 -depth 8 txt:- | awk -F'[,:]' '/#1B1D21/ && !n++ {print $2}')
         [ -z "$menu" ] || break
-        sleep 0.1
+        [ "${2:-}" = jack ] || xdotool key Return
+        sleep 0.2
     done
     sleep 0.5
 }

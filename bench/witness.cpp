@@ -1,4 +1,5 @@
-// A JACK client that notes every message that arrives and when, by the system's clock:
+// A JACK client that notes every message that arrives and when, by the clock that the program's timers
+// count by (JACK's own runs a little differently):
 //
 //   witness FILE
 //
@@ -12,13 +13,16 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
+#include <chrono>
 #include <cstdint>
 #include <cstdio>
 
 namespace {
 
+using Clock = std::chrono::steady_clock;
+
 struct Arrival {
-    jack_time_t time;
+    Clock::time_point time;
     std::uint32_t size;
 };
 
@@ -31,7 +35,7 @@ std::atomic<std::size_t> Late = 0;
 jack_port_t* Port = nullptr;
 
 void Keep(const jack_midi_event_t& event) {
-    const Arrival arrival = {jack_get_time(), static_cast<std::uint32_t>(event.size)};
+    const Arrival arrival = {Clock::now(), static_cast<std::uint32_t>(event.size)};
     if (Used + sizeof arrival + event.size > Kept.size()) {
         ++No_Room;
         return;
@@ -60,7 +64,9 @@ void Write(std::FILE* file) {
         std::copy_n(Kept.begin() + static_cast<std::ptrdiff_t>(place), sizeof arrival,
                     reinterpret_cast<unsigned char*>(&arrival));
         place += sizeof arrival;
-        std::fprintf(file, "%llu ", static_cast<unsigned long long>(arrival.time));
+        const auto since =
+            std::chrono::duration_cast<std::chrono::microseconds>(arrival.time.time_since_epoch());
+        std::fprintf(file, "%lld ", static_cast<long long>(since.count()));
         for (std::uint32_t byte = 0; byte < arrival.size; ++byte)
             std::fprintf(file, "%02x", Kept[place + byte]);
         std::fputc('\n', file);

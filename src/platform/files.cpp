@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstring>
 #include <filesystem>
 #include <system_error>
 
@@ -146,6 +147,18 @@ File_Reader::File_Reader(const std::string& path) : descriptor_(Open_For_Reading
 
 File_Reader::~File_Reader() {
     if (descriptor_ >= 0) ::close(descriptor_);
+}
+
+std::optional<std::uint64_t> File_Reader::Find(std::uint8_t byte, std::uint64_t position) {
+    while (const auto here = At(position)) {
+        if (*here == byte) return position;
+        const std::uint8_t* const from = &buffer_[position - first_];
+        const void* const found = std::memchr(from, byte, first_ + count_ - position);
+        if (found != nullptr)
+            return position + static_cast<std::uint64_t>(static_cast<const std::uint8_t*>(found) - from);
+        position = first_ + count_;
+    }
+    return std::nullopt;
 }
 
 bool File_Reader::Fill(std::uint64_t position) {

@@ -62,6 +62,10 @@ class File_Reader {
         return buffer_[position - first_];
     }
 
+    // The first place of that byte at or behind the position, as fast as the memory gives it; nothing when
+    // there is none to the end of the file.
+    std::optional<std::uint64_t> Find(std::uint8_t byte, std::uint64_t position);
+
   private:
     bool Fill(std::uint64_t position);
 
