@@ -77,9 +77,16 @@ figure_start() {
     cp "$build/tonebench" "$build/JX8P.FNT" "$stage"
     read -r ours memory < <("$build/bench/start_bench" 9 "$stage/tonebench")
     read -r bare bare_memory < <("$build/bench/start_bench" 9 "$build/bench/start_bench" bare)
+    local listed=() begin
+    for _ in 1 2 3 4 5 6 7 8 9; do
+        begin=$(date +%s%N)
+        jack_lsp >/dev/null 2>&1
+        listed+=($((($(date +%s%N) - begin) / 1000000)))
+    done
     stage_anew
     [ "$1" != start ] ||
-        row "start to the first painted panel, JACK running" "$ours ms" "the toolkit's empty window: $bare ms" start
+        row "start to the first painted panel, JACK running" "$ours ms" \
+            "the toolkit's empty window: $bare ms; jack_lsp: $(printf '%s\n' "${listed[@]}" | sort -n | sed -n 5p) ms" start
     [ "$1" != memory ] ||
         row "resident memory (private and files)" "$memory MB" "the toolkit's empty window: $bare_memory MB" memory
 }

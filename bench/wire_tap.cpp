@@ -1,7 +1,8 @@
 // The program with a tap where its messages go to the port: the linker puts these two procedures between
 // the callers and the port's own. Writes one line a message into "sent.txt" of its folder: the microseconds
-// of the clock that the witness counts by too, and the bytes in hexadecimal; behind a message that was refused,
-// the result. What it lists is what the port was given and took, so a witness must hear exactly that.
+// of the clock that the witness counts by too, and the bytes in hexadecimal; behind a message that was
+// refused, the result. What it lists is what the port was given and took, so a witness must hear exactly
+// that.
 #include <array>
 #include <chrono>
 #include <cstdio>

@@ -8,9 +8,10 @@
 //
 // Periods are counted by the server's clock, which libjack reads from shared memory. So this client has no
 // process callback and sleeps until the graph changes; one that is called every period costs as much as
-// RtMidi's own. The clock also goes on while the server waits for a client that hangs and calls nobody,
-// half a second at most. The ring holds more than is sent in that time, and nothing counts as handed over
-// until the server has been in time for some periods.
+// RtMidi's own. The clock also goes on where RtMidi's callback comes late, or the server waits for a client
+// that hangs. Then the ring may be fuller than it counts, a send spins until the callback comes, and what
+// was sent fits into the port's buffer all the same: that holds twice as much as is counted. Nothing counts
+// as handed over until the server has been in time for some periods.
 #include <jack/jack.h>
 #include <jack/midiport.h>
 
