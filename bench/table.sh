@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Prints every figure with its limit beside it, as a table: bench/table.sh BUILD-FOLDER [FIGURE...]
-# Figures: drag start memory idle jitter scan build refresh folder exit. Without one: all, in some four minutes.
+# Figures: drag start memory idle jitter scan build refresh folder exit. Without one: all, in five to ten minutes.
 # What each is and what its limit means is told in docs/speed.md.
 set -euo pipefail
 build=$(cd "$1" && pwd)
@@ -228,7 +228,7 @@ PYTHON
 processor=$(sed -n 's/^model name[^:]*: //p' /proc/cpuinfo | head -n 1)
 printf '%s, %d cores, %s, Qt %s\n\n' "$processor" "$(nproc)" "$(. /etc/os-release && echo "$PRETTY_NAME")" \
     "$(pkg-config --modversion Qt6Core)"
-printf '| what | figure | limit | alone: `bench/table.sh build/release ...` |\n| --- | --- | --- | --- |\n'
+printf '| what | figure | limit | alone |\n| --- | --- | --- | --- |\n'
 [ $# -gt 0 ] || set -- drag start memory idle jitter scan build refresh folder exit
 start_screen
 for figure; do "figure_$figure" "$figure"; done
