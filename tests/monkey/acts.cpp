@@ -57,12 +57,17 @@ std::string Name_Of(const QWidget* widget) {
     return (name.isEmpty() ? QString(widget->metaObject()->className()) : name).toStdString();
 }
 
+// What gets the keys; nothing that has gone from the screen.
+QWindow* Front() {
+    QWindow* const front = QGuiApplication::focusWindow();
+    return front != nullptr && front->isVisible() ? front : nullptr;
+}
+
 // A window that the user sees, in the order in which they came to be. Whoever is in front gets the most.
 QWindow* Any_Window() {
     const QWidget* const popup = QApplication::activePopupWidget();
     if (popup != nullptr && !Chance.One_In(8)) return popup->windowHandle();
-    if (QGuiApplication::focusWindow() != nullptr && !Chance.One_In(3))
-        return QGuiApplication::focusWindow();
+    if (Front() != nullptr && !Chance.One_In(3)) return Front();
     std::vector<QWindow*> seen;
     for (QWindow* window : QGuiApplication::topLevelWindows()) {
         if (window->isVisible()) seen.push_back(window);
@@ -121,7 +126,7 @@ void Press_In(const QPointer<QWindow>& window) {
     QPoint place = Any_Point(*widget);
     const Qt::MouseButton button = Any_Button();
     const int presses = Chance.One_In(5) ? 2 : 1;
-    const int moves = Chance.One_In(2) ? 0 : Chance.Between(1, 6);
+    const int moves = Chance.One_In(3) ? Chance.Between(1, 6) : 0;
     const bool far = Chance.One_In(4);
     const bool leaves_held = Chance.One_In(30);
     for (int press = 0; press < presses && window != nullptr; ++press) {
@@ -143,8 +148,8 @@ void Pointer_Act() {
     QWindow* const window = Any_Window();
     QWidget* const widget = window == nullptr ? nullptr : Widget_Of(window);
     if (widget == nullptr) return;
-    const bool comes = window == QGuiApplication::focusWindow() || widget->windowType() == Qt::Popup ||
-                       Is_Blocked(widget) || QApplication::activePopupWidget() != nullptr;
+    const bool comes = window == Front() || widget->windowType() == Qt::Popup || Is_Blocked(widget) ||
+                       QApplication::activePopupWidget() != nullptr;
     if (comes) {
         Press_In(window);
         return;
@@ -199,7 +204,7 @@ void Key_Act() {
         Qt::Key_End,  Qt::Key_Space,     Qt::Key_Return,  Qt::Key_Escape, Qt::Key_Delete,
         Qt::Key_F1,   Qt::Key_Backspace, Qt::Key_Plus,    Qt::Key_Minus,  Qt::Key_Insert,
         Qt::Key_F4,   Qt::Key_F10,       Qt::Key_Menu,    Qt::Key_Shift,  Qt::Key_Enter};
-    QWindow* const window = QGuiApplication::focusWindow();
+    QWindow* const window = Front();
     if (window == nullptr) return;
     const Qt::KeyboardModifiers held = Any_Modifiers();
     if (Chance.One_In(3)) {
@@ -210,19 +215,18 @@ void Key_Act() {
     }
     const int key = Chance.Of(keys);
     for (int times = Chance.One_In(4) ? Chance.Between(2, 6) : 1; times > 0; --times) {
-        if (QGuiApplication::focusWindow() != nullptr)
-            Press_Key(QGuiApplication::focusWindow(), key, held, key == Qt::Key_Space ? " " : "");
+        if (Front() != nullptr) Press_Key(Front(), key, held, key == Qt::Key_Space ? " " : "");
     }
 }
 
 // A whole name into the field that has the keyboard.
 void Type_Act() {
     if (qobject_cast<QLineEdit*>(QApplication::focusWidget()) == nullptr) return;
-    const QPointer<QWindow> window = QGuiApplication::focusWindow();
+    const QPointer<QWindow> window = Front();
     if (window == nullptr) return;
     Press_Key(window, Qt::Key_A, Qt::ControlModifier, "");
     for (const QChar letter : QString::fromStdString(Disk_Any_Name())) {
-        if (QGuiApplication::focusWindow() != window || window == nullptr) return;
+        if (Front() != window || window == nullptr) return;
         Press_Letter(window, letter, Qt::NoModifier);
     }
     if (Chance.One_In(2) && window != nullptr) Press_Key(window, Qt::Key_Return, Qt::NoModifier, "\r");
@@ -234,30 +238,41 @@ bool Is_On_Offer(const QAction& action) {
     return action.isVisible() && action.isEnabled() && !action.isSeparator();
 }
 
+// The entries that a user could choose now, those that lead far several times.
+void Collect(const QList<QAction*>& actions, std::vector<QAction*>& offered) {
+    static const std::vector<Menu_Id> favourites = {
+        Menu_File_SYX_Open, Menu_File_SYX_SaveAs, Menu_File_Seq_Open, Menu_File_Seq_SaveAs,
+        Menu_MIDI_Setup,    Menu_Tone_Receive,    Menu_MIDI_Osc,      Menu_MIDI_Seq};
+    constexpr int Times = 4;
+    for (QAction* action : actions) {
+        if (!Is_On_Offer(*action)) continue;
+        if (action->menu() != nullptr) {
+            Collect(action->menu()->actions(), offered);
+            continue;
+        }
+        const bool favourite = std::any_of(favourites.begin(), favourites.end(), [action](Menu_Id id) {
+            return action->objectName() == Menu(id).name;
+        });
+        offered.insert(offered.end(), favourite ? Times : 1, action);
+    }
+}
+
 void Menu_Act() {
     const QMainWindow* const main = Main();
     if (main == nullptr || !main->isVisible() || Is_Blocked(main) ||
         QApplication::activePopupWidget() != nullptr)
         return;
-    QList<QAction*> actions = main->menuBar()->actions();
-    for (;;) {
-        std::vector<QAction*> offered;
-        for (QAction* action : actions) {
-            if (Is_On_Offer(*action)) offered.push_back(action);
-        }
-        if (offered.empty()) return;
-        QAction* const chosen = Chance.Of(offered);
-        if (chosen->menu() != nullptr) {
-            emit chosen->menu()->aboutToShow();
-            actions = chosen->menu()->actions();
-            continue;
-        }
-        if (chosen->objectName() == Menu(Menu_File_Exit).name && !Chance.One_In(12)) return;
-        Diary_Note("menu", "Tonebench", chosen->objectName().toStdString());
-        chosen->trigger();
-        Check_Records();
-        return;
+    std::vector<QAction*> offered;
+    Collect(main->menuBar()->actions(), offered);
+    if (offered.empty()) return;
+    const QPointer<QAction> chosen = Chance.Of(offered);
+    if (chosen->objectName() == Menu(Menu_File_Exit).name && !Chance.One_In(12)) return;
+    Diary_Note("menu", "Tonebench", chosen->objectName().toStdString());
+    for (QObject* above = chosen->parent(); above != nullptr; above = above->parent()) {
+        if (auto* menu = qobject_cast<QMenu*>(above)) emit menu->aboutToShow();
     }
+    if (chosen != nullptr && Is_On_Offer(*chosen)) chosen->trigger();
+    Check_Records();
 }
 
 // No menu leads to it yet.
@@ -407,17 +422,22 @@ struct Kind {
     int weight;
     void (*act)();
 };
+// clang-format off
 constexpr std::array Kinds = {
-    Kind{44, Pointer_Act}, Kind{28, Key_Act}, Kind{3, Type_Act},    Kind{2, Wheel_Act}, Kind{7, Menu_Act},
-    Kind{6, Desktop_Act},  Kind{2, Port_Act}, Kind{6, Arrival_Act}, Kind{1, Disk_Act},  Kind{1, MKS_Act},
+    Kind{30, Pointer_Act}, Kind{20, Key_Act}, Kind{5, Type_Act},    Kind{2, Wheel_Act}, Kind{16, Menu_Act},
+    Kind{6, Desktop_Act},  Kind{3, Port_Act}, Kind{6, Arrival_Act}, Kind{2, Disk_Act},  Kind{1, MKS_Act},
 };
+// clang-format on
 
 }  // namespace
 
 void Act() {
     Disk_Notice_Names();
-    if (const QPointer<QWindow> window = std::exchange(To_Be_Pressed, nullptr)) {
-        Press_In(window);
+    if (To_Be_Pressed != nullptr) {
+        // Not there yet: the desktop takes its time, and may think better of it.
+        if (To_Be_Pressed != Front() && !Chance.One_In(4)) return;
+        const QPointer<QWindow> window = std::exchange(To_Be_Pressed, nullptr);
+        if (window == Front()) Press_In(window);
         return;
     }
     int total = 0;
@@ -429,6 +449,17 @@ void Act() {
         kind.act();
         return;
     }
+}
+
+void Desktop_Sees_To_The_Front() {
+    static QPointer<QWidget> before;
+    if (Front() != nullptr) {
+        if (QApplication::activeWindow() != nullptr) before = QApplication::activeWindow();
+        return;
+    }
+    QWidget* next = QApplication::activeModalWidget();
+    if (next == nullptr) next = before != nullptr && before->isVisible() ? before.data() : Main();
+    if (next != nullptr && next->isVisible() && !next->isMinimized()) next->activateWindow();
 }
 
 bool Act_To_Leave() {

@@ -322,7 +322,7 @@ void Disk_Write_Settings() {
         text.assign(std::istreambuf_iterator<char>(file), {});
     }
     static const std::vector<std::string> synthesizers = {"JX-8P", "MKS-70", "Alpha Juno"};
-    if (text.empty() || Chance.One_In(4)) text = "[MIDI]\nOutput=Synth Out\nInput=Keys In\n";
+    if (text.empty() || Chance.One_In(4)) text = "[MIDI]\nOutput=Synth Out\nInput=Keys In\nReceive=1\n";
     const std::size_t place = text.find("[MIDI]");
     if (place != std::string::npos && Chance.One_In(2)) {
         text.insert(place + 7, "Synthesizer=" + Chance.Of(synthesizers) +

@@ -81,6 +81,7 @@ void Step_To_End() {
 void Step() {
     static std::int64_t steps = 0;
     if (Handlers_Running() == 0) Check_At_Rest();
+    Desktop_Sees_To_The_Front();
     Count_Windows();
     Move_Clock();
     if (Diary_Events() >= Events_At_Most) Ending = true;

@@ -26,7 +26,7 @@ namespace {
 
 using Counts = std::map<std::string, std::int64_t>;
 
-constexpr std::int64_t Events_A_Life = 8000;
+constexpr std::int64_t Events_A_Life = 10000;
 constexpr std::int64_t Events_For_All_Windows = 20000;
 constexpr uid_t Nobody = 65534;
 
