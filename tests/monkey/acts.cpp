@@ -184,7 +184,9 @@ void Press_Key(QWindow* window, int key, Qt::KeyboardModifiers held, const QStri
     Check_Records();
 }
 
+// A letter beyond the first 128 in a tone's name becomes a byte that no well-formed message has.
 void Press_Letter(QWindow* window, QChar letter, Qt::KeyboardModifiers held) {
+    if (!Wild_Life && letter.unicode() > 127) return;
     Press_Key(window, letter.toUpper().unicode(), held,
               held.testFlag(Qt::ControlModifier) ? QString() : letter);
 }

@@ -4,6 +4,9 @@
 // Behind Program_Wire.
 void Checks_Begin();
 
+// Settings may name an instrument that there is none of: it has no panel and no headers.
+bool Is_Known_Instrument();
+
 // How many of the program's handlers are running; more than one when events come in while one waits.
 int Handlers_Running();
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "midi/out.h"
+#include "monkey/checks.h"
 #include "monkey/clock.h"
 #include "monkey/diary.h"
 #include "monkey/dice.h"
@@ -152,7 +153,7 @@ Port_Result Port_Out_Ready(Port_Handle handle) {
 
 Port_Result Port_Out_Long(Port_Handle handle, std::string_view bytes) {
     if (!Is_Open(handle)) return Port_Bad_Handle;
-    if (!Is_Known_Form(bytes)) Finding("a bad message: " + Hex(bytes));
+    if (Is_Known_Instrument() && !Is_Known_Form(bytes)) Finding("a bad message: " + Hex(bytes));
     if (Ports.out_long != Port_Ok) return Ports.out_long;
     Check_On(bytes);
     constexpr std::size_t Kept = 16;
