@@ -167,8 +167,10 @@ bool Main_Close() {
     Window_Unload(Oscillator);
     Window_Unload(Patch_MKS70);
     Main_Unload();
-    // A handler that still waits for a window goes on behind this; what it sends must find no port.
+    // A handler that still waits for a window goes on behind this: it must find no port to send to, and
+    // none to wait at.
     MIDI_Enabled = 0;
+    MIDI_In_Missing = Flag_16::True;
     Main_Window.visible = false;
     return true;
 }
