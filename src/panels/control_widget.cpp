@@ -169,6 +169,8 @@ void Control_Widget::mousePressEvent(QMouseEvent* event) {
 
 void Control_Widget::mouseMoveEvent(QMouseEvent* event) {
     if (event->buttons() == Qt::NoButton) return;
+    // TAB has moved the focus in the middle of the drag: another thumb would follow the pointer.
+    Take_Focus();
     Guarded_Event([&] {
         panel_.events.pointer_moved(record_, event->position().y());
         if (panel_.events.pointer_moved_across != nullptr) {

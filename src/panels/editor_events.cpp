@@ -48,7 +48,9 @@ void Toggle(Control& control, const Editor_Row& row, bool turn) {
     std::uint8_t& byte = Tone_Byte(Parameter_Of(row));
     const auto other_side = Narrow<std::uint8_t>(Toggled(byte));
     if (turn && other_side != byte) {
-        control.top += other_side > byte ? -Switch_Pitch : Switch_Pitch;
+        // Not ten from where it stands: a message that was no tone has changed the byte and not the thumb,
+        // and from there the thumb would leave its rail.
+        control.top = other_side > byte ? row.top_row : row.bottom_row;
         byte = other_side;
     }
     Editor_Send_Param(Parameter_Of(row));

@@ -171,20 +171,19 @@ void App_Window::Show_Menus() {
 
 // The windows inside the frame, below the entries of Menu_Windows; choosing one brings it to the front.
 void App_Window::Show_Window_List() {
-    const std::vector<Window*> open = Windows_Inside();
-    std::vector<std::string> captions;
-    for (const Window* window : open) captions.push_back(window->caption);
-    if (captions == listed_) return;
-    listed_ = captions;
+    std::vector<Listed_Window> open;
+    for (Window* window : Windows_Inside()) open.emplace_back(window, window->caption);
+    if (open == listed_) return;
+    listed_ = open;
     QMenu* menu = entries_[Menu_Windows]->menu();
     qDeleteAll(list_->actions());
     list_->addAction(menu->addSeparator());
     for (std::size_t place = 0; place < open.size(); ++place) {
-        QString caption = QString::fromStdString(captions[place]);
+        QString caption = QString::fromStdString(open[place].second);
         caption.replace("&", "&&");
         QAction* entry = list_->addAction(menu->addAction(QString("&%1 %2").arg(place + 1).arg(caption)));
         connect(entry, &QAction::triggered,
-                [window = open[place]] { Guarded_Event([window] { Window_Show(*window); }); });
+                [window = open[place].first] { Guarded_Event([window] { Window_Show(*window); }); });
     }
 }
 

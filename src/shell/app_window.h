@@ -3,6 +3,8 @@
 
 #include <QMainWindow>
 #include <memory>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "desk/windows.h"
@@ -47,7 +49,10 @@ class App_Window : public QMainWindow {
     std::vector<Panel_Window*> panels_;    // one for each row of Panels, once it is loaded
     std::vector<Child_Window*> children_;  // one for each row of Children, null until it is needed
     std::vector<QAction*> entries_;        // one for each row of Menu_Tree
-    std::vector<std::string> listed_;      // the windows that the list shows, by their captions
+    // The windows that the list shows. The two panels bear the same caption, so that alone tells too
+    // little.
+    using Listed_Window = std::pair<Window*, std::string>;
+    std::vector<Listed_Window> listed_;
     QActionGroup* list_;
     Place agreed_;
     bool showing_ = false;

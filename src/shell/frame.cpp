@@ -143,6 +143,8 @@ void Main_Unload() {
     Settings_Write();
     MIDI_Out_Close_Fully();
     Event_Loop_Turn();
+    // A click that waited may have opened it once more, and a note must not outlive the program.
+    MIDI_Out_Close_Fully();
 }
 
 bool Main_Close() {
@@ -165,6 +167,10 @@ bool Main_Close() {
     Window_Unload(Oscillator);
     Window_Unload(Patch_MKS70);
     Main_Unload();
+    // A handler that still waits for a window goes on behind this: it must find no port to send to, and
+    // none to wait at.
+    MIDI_Enabled = 0;
+    MIDI_In_Missing = Flag_16::True;
     Main_Window.visible = false;
     return true;
 }

@@ -204,6 +204,16 @@ TEST_F(The_Editor, shows_the_name_at_once_in_a_refresh_trimmed_and_in_capitals) 
     EXPECT_EQ(Shown(), "BASS 1");
 }
 
+TEST_F(The_Editor, keeps_the_toggle_on_its_rail_when_a_message_has_changed_its_byte_alone) {
+    Tone_Data[58] = 64;  // as a message does that is no tone: nothing is refreshed
+    Press("VCA_Mode");
+    EXPECT_EQ(Tone_Data[58], 0);
+    EXPECT_EQ(At("VCA_Mode").top, 162);
+    Press("VCA_Mode");
+    EXPECT_EQ(Tone_Data[58], 64);
+    EXPECT_EQ(At("VCA_Mode").top, 152);
+}
+
 TEST_F(The_Editor, shows_a_byte_above_127_at_the_edge_or_not_at_all_and_sends_it_back_unchanged) {
     const int chorus = At("Chorus_Mode").top;
     const int vca = At("VCA_Mode").top;

@@ -2,9 +2,11 @@
 #include "desk/menus.h"
 #include "desk/timers.h"
 #include "fakes/stage.h"
+#include "midi/in.h"
 #include "midi/out.h"
 #include "sequencer/sequence.h"
 #include "shell/frame.h"
+#include "synth/syx_file.h"
 #include "synth/tone.h"
 
 namespace {
@@ -257,6 +259,43 @@ TEST_F(Program_End, waits_for_the_port_without_a_limit) {
     EXPECT_TRUE(Main_Close());
     EXPECT_EQ(Ports.close_calls, 1001);
     EXPECT_EQ(Ports.open_handle, -1);
+}
+
+TEST_F(Program_End, closes_the_port_again_behind_a_note_that_a_waiting_click_played) {
+    MIDI_Out_Open();
+    Tone_Saved = Flag_16::True;
+    // The settings take one turn of the events, the close another, the end of the program the third.
+    At_Next_Turn([] { At_Next_Turn([] { At_Next_Turn([] { MIDI_SendNote(60, 90); }); }); });
+    Sent();
+    EXPECT_TRUE(Main_Close());
+    EXPECT_EQ(Sent(), (Lines{"B0 7B 00", "B0 7B 00", "90 3C 5A", "B0 7B 00"}));
+    EXPECT_EQ(Ports.open_handle, Port_Closed);
+    EXPECT_EQ(MIDI_Out_Handle, Port_Closed);
+}
+
+TEST_F(Program_End, sends_no_new_tone_that_waited_for_a_save_window) {
+    Tone_Saved = Flag_16::False;
+    Answer_With("Save actual TONE first?", Answer::Yes);
+    SYX_Save_As = [] {
+        Tone_Saved = Flag_16::True;
+        EXPECT_TRUE(Main_Close());
+        Sent();
+    };
+    Menu(Menu_File_SYX_New).chosen();
+    EXPECT_EQ(Sent(), Lines{});
+    EXPECT_EQ(Ports.open_handle, Port_Closed);
+}
+
+TEST_F(Program_End, waits_for_no_tone_whose_wait_would_begin_behind_a_save_window) {
+    Tone_Saved = Flag_16::False;
+    Answer_With("Save actual TONE first?", Answer::Yes);
+    SYX_Save_As = [] {
+        Tone_Saved = Flag_16::True;
+        EXPECT_TRUE(Main_Close());
+    };
+    Menu(Menu_Tone_Receive).chosen();
+    EXPECT_EQ(MIDI_Receiving, 0);
+    EXPECT_TRUE(Ports.in_opened.empty());
 }
 
 TEST_F(Program_End, closes_a_port_that_stayed_open_with_midi_off) {

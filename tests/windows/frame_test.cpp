@@ -154,6 +154,17 @@ TEST_F(Frame, lists_the_windows_inside_it_and_brings_one_to_the_front) {
     EXPECT_EQ(listed(), QStringList{"&1 Editor"});
 }
 
+TEST_F(Frame, lists_the_panel_of_the_instrument_also_behind_a_change_of_it) {
+    Start();
+    Guarded_Event([] {
+        Synthesizer = "Alpha Juno";
+        Sysex_Headers_Update();
+    });
+    window_->findChild<QAction*>("Menu_Windows")->menu()->actions().back()->trigger();
+    EXPECT_TRUE(Editor_Juno.visible);
+    EXPECT_FALSE(Editor.visible) << "the other panel bears the same caption";
+}
+
 TEST_F(Frame, runs_the_menu_s_shortcuts_from_a_window_over_it_too) {
     Start();
     Guarded_Event([] { Window_Show(Sequencer); });

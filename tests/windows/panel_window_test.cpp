@@ -78,6 +78,21 @@ TEST_F(Panel_On_Screen, takes_the_row_from_the_thumb_as_it_stands_at_the_event) 
                              "F0 41 36 00 21 20 01 23 1F F7"}));
 }
 
+TEST_F(Panel_On_Screen, moves_the_dragged_thumb_also_when_tab_took_the_focus_meanwhile) {
+    Start();
+    const int row_of_the_knob = Widget("DCO1_Tune")->y();
+    QWidget* thumb = Widget("DCO1_LFO");
+    Widget("DCO1_Waveform")->setFocus();
+    QTest::mousePress(thumb, Qt::LeftButton, {}, QPoint(8, 8));
+    QTest::keyClick(thumb, Qt::Key_Backtab);
+    QTest::keyClick(Widget("DCO1_Tune_Knopf"), Qt::Key_Backtab);
+    ASSERT_EQ(Focused(), "DCO1_Tune");
+    QTest::mouseMove(thumb, QPoint(8, -40));
+    EXPECT_EQ(thumb->y(), 232 - 40 * 80 / 127);
+    EXPECT_EQ(Widget("DCO1_Tune")->y(), row_of_the_knob);
+    EXPECT_EQ(Focused(), "DCO1_LFO");
+}
+
 TEST_F(Panel_On_Screen, is_worked_by_every_mouse_button) {
     Start();
     QTest::mousePress(Widget("VCF_Res"), Qt::RightButton, {}, QPoint(8, 8));
