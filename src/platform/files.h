@@ -72,7 +72,8 @@ class File_Reader {
             const std::uint8_t* const from = &buffer_[position - first_];
             const void* const found = std::memchr(from, byte, first_ + count_ - position);
             if (found != nullptr)
-                return position + static_cast<std::uint64_t>(static_cast<const std::uint8_t*>(found) - from);
+                return position +
+                       static_cast<std::uint64_t>(static_cast<const std::uint8_t*>(found) - from);
             position = first_ + count_;
         }
         return std::nullopt;
