@@ -24,6 +24,15 @@ void Style_Install() {
     palette.setColor(QPalette::ToolTipBase, QColor(0x33, 0x37, 0x3d));
     palette.setColor(QPalette::ToolTipText, text);
     palette.setColor(QPalette::PlaceholderText, faint);
+    palette.setColor(QPalette::Link, QColor(0x4f, 0xd0, 0xc0));
+    palette.setColor(QPalette::LinkVisited, QColor(0x4f, 0xd0, 0xc0));
+    // The shades of edges too, and the shadow of a disabled text: what is not said here is the desktop's,
+    // and a light desktop would put white behind grey letters.
+    palette.setColor(QPalette::Light, QColor(0x1a, 0x1c, 0x20));
+    palette.setColor(QPalette::Midlight, QColor(0x3d, 0x42, 0x49));
+    palette.setColor(QPalette::Mid, QColor(0x1f, 0x22, 0x26));
+    palette.setColor(QPalette::Dark, QColor(0x14, 0x16, 0x19));
+    palette.setColor(QPalette::Shadow, Qt::black);
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(QPalette::Disabled, role, faint);
     }
