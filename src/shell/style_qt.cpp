@@ -2,11 +2,74 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QPainter>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
+
+#include "panels/pictures_qt.h"
+
+namespace {
+
+// The stock controls in the panels' manner: what can be switched, opened or filled in has an edge that is
+// seen on the dark ground, and what has the keyboard has a bright one, also when the pointer brought it
+// there.
+class House_Style : public QProxyStyle {
+  public:
+    House_Style() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        switch (element) {
+            case PE_FrameFocusRect:
+                return Draw_Edge(*painter, option->rect, Ink::Heading);
+            case PE_FrameMenu:
+                return Draw_Edge(*painter, option->rect, Ink::Frame);
+            case PE_Frame:
+                return Draw_Edge(*painter, option->rect,
+                                 option->state.testFlag(State_HasFocus) ? Ink::Heading : Ink::Frame);
+            case PE_PanelButtonCommand:
+                QProxyStyle::drawPrimitive(element, option, painter, widget);
+                if (option->state.testFlag(State_HasFocus))
+                    Draw_Edge(*painter, option->rect.adjusted(3, 3, -3, -3), Ink::Heading);
+                return;
+            case PE_IndicatorCheckBox:
+                QProxyStyle::drawPrimitive(element, option, painter, widget);
+                return Draw_Edge(*painter, option->rect,
+                                 option->state.testFlag(State_Enabled) ? Ink::Faint : Ink::Frame);
+            default:
+                QProxyStyle::drawPrimitive(element, option, painter, widget);
+        }
+    }
+
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        if (control == CC_ScrollBar && option->state.testFlag(State_HasFocus)) {
+            Draw_Edge(*painter, option->rect, Ink::Heading);
+        }
+    }
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        return metric == PM_MenuPanelWidth ? 1 : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+
+  private:
+    static void Draw_Edge(QPainter& painter, const QRect& place, Ink ink) {
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing, false);
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(Ink_Colour(ink), 1));
+        painter.drawRect(place.adjusted(0, 0, -1, -1));
+        painter.restore();
+    }
+};
+
+}  // namespace
 
 void Style_Install() {
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setStyle(new House_Style);
     const QColor text(0xec, 0xea, 0xe2);
     const QColor faint(0x80, 0x84, 0x88);
     const QColor accent(0x2b, 0x8f, 0x84);
