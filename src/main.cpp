@@ -3,8 +3,8 @@
 #include <cstdio>
 
 #include "desk/windows.h"
-#include "panels/control_widget.h"
 #include "panels/pictures_qt.h"
+#include "panels/spoken_qt.h"
 #include "platform/gate.h"
 #include "shell/app_window.h"
 #include "shell/frame.h"
@@ -23,7 +23,7 @@ int main(int argument_count, char** arguments) {
     QApplication::setApplicationName("Tonebench");
     Style_Install();
     Pictures_Open();
-    Control_Widgets_Speak();
+    Widgets_Speak();
     Program_Wire();
 
     App_Window window;

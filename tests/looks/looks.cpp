@@ -25,9 +25,9 @@
 #include "help/help.h"
 #include "help/howto.h"
 #include "midi/out.h"
-#include "panels/control_widget.h"
 #include "panels/juno_panel.h"
 #include "panels/pictures_qt.h"
+#include "panels/spoken_qt.h"
 #include "platform/gate.h"
 #include "platform/message_box.h"
 #include "shell/app_window.h"
@@ -237,7 +237,7 @@ int main(int argument_count, char** arguments) {
     QApplication::setQuitOnLastWindowClosed(false);
     Style_Install();
     Pictures_Open();
-    Control_Widgets_Speak();
+    Widgets_Speak();
     std::filesystem::copy_file(BUILD_DIR "/JX8P.FNT", Test_Folder() + "/JX8P.FNT");
     const std::string disk = Disk();
     std::ofstream(Test_Folder() + "/Tonebench.INI", std::ios::binary)
