@@ -3,6 +3,7 @@
 #include "platform/display.h"
 #include "platform/event_loop.h"
 #include "platform/message_box.h"
+#include "platform/slow_work.h"
 #include "platform/timer.h"
 #include "platform/wake_up.h"
 
@@ -43,6 +44,10 @@ bool System_Sound_Play(const std::string&) {
     return true;
 }
 void Beep() {}
+bool Slow_Work(std::function<void()> work, int) {
+    work();
+    return true;
+}
 
 void Wake_Up_Begin(Hook<void()>) {}
 void Wake_Up_End() {}
