@@ -57,6 +57,7 @@ void Do(const std::function<void()>& work) {
 }
 
 void Key(const char* widget, Qt::Key key, int times = 1) {
+    Widget(widget).setFocus();
     for (int time = 0; time < times; ++time) QTest::keyClick(&Widget(widget), key);
 }
 
