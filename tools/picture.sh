@@ -1,15 +1,18 @@
 #!/usr/bin/env bash
 # Takes the pictures of the documents from the real program: tools/picture.sh BUILD-FOLDER
-# Starts a virtual screen and a JACK server with a device each way, plays a little on the panel, and writes
-# the pictures of docs/. No menu opens the MKS-70's patch window or the file window's panel of oscillators; their
-# pictures, docs/patch_mks70.png and docs/files_oscillators.png, are what the windows' tests leave in the build
-# folder.
+# Starts a virtual screen and a JACK server with a device each way, plays a little in every window, and writes
+# docs/panel.png and the pictures of the guide; those whose names end in @2x have two pixels for each of the
+# screen's. No menu opens the MKS-70's patch window or the file window's panel of oscillators; their pictures,
+# patch_mks70.png and docs/files_oscillators.png, are what the windows' tests leave in the build folder.
+#
+# The paths that some pictures show begin with TMPDIR.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 build=$(cd "$1" && pwd)
 docs=$PWD/docs
+guide=$docs/guide/pictures
 folder=${TMPDIR:-/tmp}/studio
-mkdir "$folder"
+mkdir -m 700 "$folder"
 trap 'kill $(jobs -p) $screen 2>/dev/null || true; rm -rf "$folder"' EXIT
 
 export JACK_NO_AUDIO_RESERVATION=1 JACK_DEFAULT_SERVER=tonebench-picture XDG_RUNTIME_DIR=$folder
@@ -23,7 +26,15 @@ jack_midi_dump instrument >/dev/null 2>&1 &
 jack_midiseq keyboard 48000 0 60 8000 >/dev/null 2>&1 &
 sleep 1
 cp "$build/tonebench" "$build/JX8P.FNT" "$folder"
-printf '[MIDI]\nOutput=instrument:input\nInput=keyboard:out\n' >"$folder/Tonebench.INI"
+mkdir -p "$folder/Tones/Basses" "$folder/Tones/Leads" "$folder/Tones/Pads and Strings"
+cp "$build"/Tones/JX-8P/* "$folder/Tones"
+cp -r "$build/Sequences" "$folder"
+
+# Both devices and the folders chosen, as a user has them after some days; $1 is one more line of [MIDI].
+settle() {
+    printf '[MIDI]\nOutput=instrument:input\nInput=keyboard:out\n%s\n[Recent Files]\nTones=%s\nSequences=%s\n' \
+        "${1:-}" "$folder/Tones" "$folder/Sequences" >"$folder/Tonebench.INI"
+}
 
 # Sets some controls: name of a key, times, and the place of the control on the panel.
 touch_control() {
@@ -198,13 +209,93 @@ play_help_search() {
     xdotool type matr
 }
 
+# The dialogs stand in the middle of the main window.
+play_setup() {
+    xdotool key alt+m
+    sleep 0.4
+    xdotool key s
+    sleep 0.8
+    area="400 300 70 104"
+}
+
+play_name() {
+    xdotool key alt+t
+    sleep 0.4
+    xdotool key n
+    sleep 0.6
+    xdotool type "Glass Pad"
+    area="300 130 120 189"
+}
+
+# The file window stands in the corner of the screen: a tone pressed and heard.
+play_files_tones() {
+    xdotool key ctrl+o
+    sleep 0.8
+    xdotool mousemove $((100 * scale)) $((120 * scale)) click 1 # the third file
+    sleep 2.5
+    area="540 444 0 0"
+}
+
+play_files_sequences() {
+    local key
+    for key in alt+f q o; do
+        xdotool key "$key"
+        sleep 0.4
+    done
+    sleep 0.6
+    xdotool mousemove $((100 * scale)) $((80 * scale)) click 1
+    sleep 0.6
+    area="540 444 0 0"
+}
+
+# The new folder's name is asked for in a window at a fixed place.
+play_new_folder() {
+    xdotool key ctrl+o
+    sleep 0.8
+    xdotool mousemove $((290 * scale)) $((92 * scale)) click 1 mousemove $((485 * scale)) $((219 * scale)) click 1
+    sleep 0.8
+    area="360 170 150 150"
+}
+
+play_menu() {
+    xdotool key alt+f
+    sleep 0.4
+    xdotool key t
+    sleep 0.6
+    area="541 290 0 0"
+}
+
+# A box stands where the toolkit puts it, and has the keyboard.
+frame_box() {
+    sleep 0.8
+    local X Y WIDTH HEIGHT
+    eval "$(xdotool getwindowgeometry --shell "$(xdotool getwindowfocus)" | grep -E '^(X|Y|WIDTH|HEIGHT)=[0-9]+$')"
+    area="$((WIDTH / scale)) $((HEIGHT / scale)) $((X / scale)) $((Y / scale))"
+}
+
+play_question() {
+    touch_control 407 120 Page_Up 4
+    xdotool key ctrl+o
+    frame_box
+}
+
+play_reminder() {
+    play_setup
+    xdotool key Return
+    frame_box
+}
+
+play_not_configured() {
+    frame_box
+}
+
 # Shoots at a device pixel ratio, behind what is played, into a file: the main window, or the area (width,
 # height, left, top in logical pixels) that the playing names.
 shoot() {
     scale=$1
     menu=22
     area="541 508 0 0"
-    QT_SCALE_FACTOR=$scale "$folder/tonebench" &
+    (cd "$folder" && QT_SCALE_FACTOR=$scale exec ./tonebench) &
     local program=$!
     sleep 2
     "$2"
@@ -217,51 +308,32 @@ shoot() {
     sleep 4 # the server is busy behind a client that was killed
 }
 
+# The first start, with nothing chosen yet.
+shoot 2 play_not_configured "$guide/not_configured@2x.png"
+
+settle
 shoot 1 play_panel "$docs/panel.png"
-shoot 2 play_panel "$docs/panel@2x.png"
-shoot 2 play_oscillator "$docs/oscillator.png"
-shoot 2 play_sequencer "$docs/sequencer.png"
-shoot 1 play_patch "$docs/patch.png"
-shoot 2 play_help_about "$docs/help_about.png"
-shoot 2 play_help_howto "$docs/help_howto.png"
-shoot 2 play_help_search "$docs/help_search.png"
-printf 'Synthesizer=Alpha Juno\n' >>"$folder/Tonebench.INI"
-shoot 2 play_juno "$docs/juno.png"
-shoot 2 play_envelope "$docs/juno_envelope.png"
+shoot 2 play_panel "$guide/panel@2x.png"
+shoot 2 play_oscillator "$guide/oscillator@2x.png"
+shoot 2 play_sequencer "$guide/sequencer@2x.png"
+shoot 2 play_patch "$guide/patch@2x.png"
+shoot 2 play_setup "$guide/setup@2x.png"
+shoot 2 play_reminder "$guide/reminder@2x.png"
+shoot 2 play_name "$guide/name@2x.png"
+shoot 2 play_question "$guide/question@2x.png"
+shoot 2 play_files_tones "$guide/files_tones@2x.png"
+shoot 2 play_files_sequences "$guide/files_sequences@2x.png"
+shoot 2 play_new_folder "$guide/new_folder@2x.png"
+shoot 2 play_help_about "$guide/help_about@2x.png"
+shoot 2 play_help_howto "$guide/help_howto@2x.png"
+shoot 2 play_help_search "$guide/help_search@2x.png"
 
-cp "$build/patch_mks70.png" "$build/files_oscillators.png" "$docs"
+printf 'Tone1=%s\nTone2=%s\n' "$folder/Tones/Glass Pad.syx" "$folder/Tones/Warm Brass.syx" >>"$folder/Tonebench.INI"
+shoot 2 play_menu "$guide/menu@2x.png"
 
-rm "$folder/Tonebench.INI"
-"$folder/tonebench" &
-sleep 1.5
-xdotool key Return
-sleep 0.5
-xdotool key Return
-sleep 1
-import -window root -crop 541x508+0+0 +repage "$docs/setup.png"
-kill %% 2>/dev/null || true
-sleep 4
+settle "Synthesizer=Alpha Juno"
+shoot 2 play_juno "$guide/juno@2x.png"
+shoot 2 play_envelope "$guide/juno_envelope@2x.png"
 
-# The file window: a tone and a sequence, pressed and heard.
-mkdir -p "$folder/Tones/Basses" "$folder/Tones/Leads" "$folder/Tones/Pads and Strings"
-cp "$build"/Tones/JX-8P/* "$folder/Tones"
-cp -r "$build/Sequences" "$folder"
-printf '[MIDI]\nOutput=instrument:input\nInput=keyboard:out\n[Recent Files]\nTones=%s\nSequences=%s\n' \
-    "$folder/Tones" "$folder/Sequences" >"$folder/Tonebench.INI"
-(cd "$folder" && exec ./tonebench) &
-sleep 2
-xdotool key ctrl+o
-sleep 0.5
-xdotool mousemove 100 120 click 1 # the third file
-sleep 2.5
-import -window root -crop 540x444+0+0 +repage "$docs/files_tones.png"
-xdotool key Escape
-sleep 0.5
-for key in alt+f q o; do
-    xdotool key "$key"
-    sleep 0.3
-done
-sleep 0.5
-xdotool mousemove 100 80 click 1
-sleep 0.5
-import -window root -crop 540x444+0+0 +repage "$docs/files_sequences.png"
+cp "$build/patch_mks70.png" "$guide"
+cp "$build/files_oscillators.png" "$docs"

@@ -3,9 +3,18 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "fakes/child_process.h"
+
+// Another client of the server: how it is started, and the port by which one sees that it is there.
+struct Jack_Client {
+    std::vector<std::string> command;
+    std::string port;
+};
+using Jack_Clients = std::vector<std::unique_ptr<Child_Process>>;
 
 class Jack_Server {
   public:
@@ -22,6 +31,11 @@ class Jack_Server {
     // Starts the server, again if need be, and waits until it answers. Throws std::runtime_error.
     void Start(Pace pace = Pace::Waits);
 
+    // Starts the server and these clients, and waits until every one has its port. On a busy machine a
+    // client may fail to connect, and then ends or hangs: it is started again, and behind that the server
+    // too. Throws std::runtime_error with the words of all of them.
+    Jack_Clients Start_With(const std::vector<Jack_Client>& wanted, Pace pace = Pace::Waits);
+
     // The running server: to stop it for a while, or to kill it.
     Child_Process& Process() { return *process_; }
 
@@ -30,9 +44,15 @@ class Jack_Server {
     std::unique_ptr<Child_Process> process_;
 };
 
-// Starts JACK's midi dump: it has the port "<name>:input" and prints the bytes of each message that comes.
-// Does not wait until the port is there.
-std::unique_ptr<Child_Process> Started_Midi_Dump(const std::string& name);
+// Starts a client of the running server and waits until it has its port; a client that shows none is
+// started once more. Throws std::runtime_error with what it printed.
+std::unique_ptr<Child_Process> Started_Client(const Jack_Client& client);
+
+// JACK's midi dump: it has the port "<name>:input" and prints the bytes of each message that comes.
+Jack_Client Midi_Dump(const std::string& name);
+
+// Whether the server has a port of that name now; nothing when it gives no answer.
+std::optional<bool> Jack_Port_Is_There(const std::string& name);
 
 // The bytes of each message printed so far, as "b0 7b 00".
 std::vector<std::string> Messages_Dumped(Child_Process& midi_dump);

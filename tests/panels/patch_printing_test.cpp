@@ -97,8 +97,9 @@ TEST(The_MKS_70_Patch_Printing, has_a_rail_that_ends_under_every_thumb) {
         {"Total_Volume", 80}};
     ASSERT_EQ(travels.size(), MKS_Thumbs.size());
     for (const auto& [name, travel] : travels) {
-        const auto* row = std::find_if(MKS_Thumbs.begin(), MKS_Thumbs.end(),
-                                       [&](const MKS_Row& candidate) { return candidate.control == name; });
+        const auto* row =
+            std::find_if(MKS_Thumbs.begin(), MKS_Thumbs.end(),
+                         [&, &name = name](const MKS_Row& candidate) { return candidate.control == name; });
         ASSERT_NE(row, MKS_Thumbs.end()) << name;
         EXPECT_TRUE(Has_Rail(printing, row->left, row->top - travel, row->top)) << name;
     }

@@ -23,7 +23,7 @@ using Clock = std::chrono::steady_clock;
 using namespace std::chrono_literals;
 using Names = std::vector<std::string>;
 
-constexpr auto Patience = 5000ms;
+constexpr auto Patience = 10000ms;
 
 std::atomic<int> Wake_Ups = 0;
 
@@ -61,19 +61,26 @@ class Midi_Input_On_Jack : public testing::Test {
 
     // A server and a player with these events, which starts to play when its port is connected.
     void Start(const Names& events, Jack_Server::Pace pace = Jack_Server::Pace::Waits) {
-        server_.Start(pace);
-        Start_Player(events);
+        Write(events);
+        player_ = std::move(server_.Start_With({Player()}, pace).front());
+        Wait_For_Listing();
     }
     void Start_Player(const Names& events) {
-        {
-            std::ofstream file(file_);
-            for (const std::string& event : events) file << event << '\n';
-        }
-        player_ = std::make_unique<Child_Process>(
-            std::vector<std::string>{BUILD_DIR "/tests/jack_player", "player", file_.string()});
+        Write(events);
+        player_ = Started_Client(Player());
+        Wait_For_Listing();
+    }
+    Jack_Client Player() const {
+        return {{BUILD_DIR "/tests/jack_player", "player", file_.string()}, "player:out"};
+    }
+    void Write(const Names& events) const {
+        std::ofstream file(file_);
+        for (const std::string& event : events) file << event << '\n';
+    }
+    static void Wait_For_Listing() {
         const auto deadline = Clock::now() + Patience;
         while (Index() < 0 && Clock::now() < deadline) std::this_thread::sleep_for(10ms);
-        ASSERT_GE(Index(), 0) << "the player does not start";
+        ASSERT_GE(Index(), 0) << "the player is not listed";
     }
 
     static int Index() {

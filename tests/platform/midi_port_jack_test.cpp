@@ -21,7 +21,7 @@ using Names = std::vector<std::string>;
 // All notes off: B0 7B 00.
 constexpr std::uint32_t All_Notes_Off = 0x007BB0;
 
-constexpr auto Patience = 3000ms;
+constexpr auto Patience = 10000ms;
 
 const std::string Ten_Bytes("\xF0\x41\x36\x00\x21\x20\x01\x0D\x64\xF7", 10);
 const std::string Ten_Bytes_Printed = "f0 41 36 00 21 20 01 0d 64 f7";
@@ -36,22 +36,23 @@ class Midi_Port_On_Jack : public testing::Test {
 
     // The witness's port is "<name>:input".
     static std::unique_ptr<Child_Process> Started_Witness(const std::string& name) {
-        auto witness = Started_Midi_Dump(name);
-        const auto deadline = Clock::now() + Patience;
-        while (Index_Of(name + ":input") < 0) {
-            if (Clock::now() >= deadline) {
-                std::string words = "the witness does not start:";
-                for (const std::string& line : witness->Errors()) words.append(" ").append(line);
-                throw std::runtime_error(words);
-            }
-            std::this_thread::sleep_for(10ms);
-        }
+        auto witness = Started_Client(Midi_Dump(name));
+        Wait_For_Listing(name);
         return witness;
     }
 
     void Start_Server_And_Witness(Jack_Server::Pace pace = Jack_Server::Pace::Waits) {
-        server_.Start(pace);
-        witness_ = Started_Witness("witness");
+        witness_ = std::move(server_.Start_With({Midi_Dump("witness")}, pace).front());
+        Wait_For_Listing("witness");
+    }
+
+    // Our own list follows our own client, which hears of a port a little later.
+    static void Wait_For_Listing(const std::string& name) {
+        const auto deadline = Clock::now() + Patience;
+        while (Index_Of(name + ":input") < 0) {
+            if (Clock::now() >= deadline) throw std::runtime_error("the witness is not listed");
+            std::this_thread::sleep_for(10ms);
+        }
     }
 
     static int Index_Of(const std::string& name) {

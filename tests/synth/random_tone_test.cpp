@@ -64,7 +64,8 @@ TEST_F(Random, never_reaches_127) {
 TEST_F(Random, draws_the_parameters_without_a_control_too) {
     Random_Number = [] { return 0.5; };
     Tone_Random();
-    for (const std::size_t parameter : {23, 24, 25, 57}) EXPECT_EQ(Tone_Data[parameter], 63) << parameter;
+    for (const std::size_t parameter : {23u, 24u, 25u, 57u})
+        EXPECT_EQ(Tone_Data[parameter], 63) << parameter;
     EXPECT_EQ(Tone_Data[10], 32) << "the name's blanks reach it";
 }
 

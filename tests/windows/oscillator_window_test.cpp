@@ -19,6 +19,7 @@
 #include "panels/pictures_qt.h"
 #include "platform/gate.h"
 #include "platform/random.h"
+#include "windows/printed.h"
 #include "windows/screen.h"
 
 namespace {
@@ -113,30 +114,21 @@ TEST_F(Oscillator_On_Screen, has_every_control_inside_by_its_name_and_apart_from
 
 TEST_F(Oscillator_On_Screen, prints_every_word_clear_of_others_of_controls_and_of_edges) {
     Open();
-    std::vector<std::pair<std::string, QRectF>> placed;
-    for (const Print_Text& text : Osc_Printing().texts) {
-        const QFontMetricsF metrics(Printing_Font(text.size));
-        const QString letters = QString::fromStdString(text.text);
-        const double width = metrics.horizontalAdvance(letters);
-        double left = text.at.x;
-        if (text.align == Align::Centre) left -= width / 2;
-        if (text.align == Align::Right) left -= width;
-        const QRectF ink = metrics.tightBoundingRect(letters).translated(left, text.at.y);
-        EXPECT_TRUE(QRectF(2, 2, 390, 188).contains(ink)) << text.text;
-        for (const auto& [other, other_ink] : placed)
-            EXPECT_FALSE(ink.intersects(other_ink)) << text.text << other;
-        placed.emplace_back(text.text, ink);
+    std::vector<Placed> placed;
+    for (const auto& [text, ink] : Placed_Texts(Osc_Printing())) {
+        EXPECT_TRUE(QRectF(2, 2, 390, 188).contains(ink)) << text;
+        for (const Placed& other : placed) EXPECT_FALSE(ink.intersects(other.ink)) << text << other.text;
+        placed.push_back({text, ink});
         for (const char* name :
              {"Picture1", "Combo1", "VScrollA", "VScrollDelta", "Osc_Time", "Label1", "Label2", "Label3",
               "Label4", "Osc_Start", "Osc_Stop", "Osc_Wave_0", "Osc_Wave_1"}) {
-            EXPECT_FALSE(ink.intersects(QRectF(Widget(name)->geometry())))
-                << text.text << " under " << name;
+            EXPECT_FALSE(ink.intersects(QRectF(Widget(name)->geometry()))) << text << " under " << name;
         }
         for (const Print_Line& line : Osc_Printing().lines) {
             if (!line.closed) continue;
             const QRectF frame(QPointF(line.points[0].x, line.points[0].y),
                                QPointF(line.points[2].x, line.points[2].y));
-            EXPECT_TRUE(frame.contains(ink) || !frame.intersects(ink)) << text.text << " on a frame";
+            EXPECT_TRUE(frame.contains(ink) || !frame.intersects(ink)) << text << " on a frame";
         }
     }
     EXPECT_EQ(placed.size(), 10U);

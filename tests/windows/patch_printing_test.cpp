@@ -1,34 +1,14 @@
 // The printing of the two patch windows with its real face: nothing overlaps, nothing lies under a control.
-#include <QFontMetricsF>
 
+#include "panels/patch_printing.h"
 #include "panels/mks_patch.h"
 #include "panels/mks_patch_printing.h"
 #include "panels/patch.h"
-#include "panels/patch_printing.h"
 #include "panels/pictures_qt.h"
+#include "windows/printed.h"
 #include "windows/screen.h"
 
 namespace {
-
-struct Placed {
-    std::string text;
-    QRectF ink;
-};
-
-std::vector<Placed> Placed_Texts(const Printing& printing) {
-    std::vector<Placed> placed;
-    for (const Print_Text& text : printing.texts) {
-        if (text.text.empty()) continue;
-        const QFontMetricsF metrics(Printing_Font(text.size));
-        const QString letters = QString::fromStdString(text.text);
-        const double width = metrics.horizontalAdvance(letters);
-        double left = text.at.x;
-        if (text.align == Align::Centre) left -= width / 2;
-        if (text.align == Align::Right) left -= width;
-        placed.push_back({text.text, metrics.tightBoundingRect(letters).translated(left, text.at.y)});
-    }
-    return placed;
-}
 
 // Where the pictures of the Patch window's controls may ever stand.
 std::vector<QRectF> Patch_Reaches() {

@@ -10,14 +10,10 @@
 #include "panels/juno_panel.h"
 #include "panels/juno_printing.h"
 #include "panels/pictures_qt.h"
+#include "windows/printed.h"
 #include "windows/screen.h"
 
 namespace {
-
-struct Placed {
-    std::string text;
-    QRectF ink;
-};
 
 // A panel's printing, and where its controls' pictures may ever stand.
 struct Printed_Panel {
@@ -63,20 +59,6 @@ std::vector<QRectF> Other_Places(const Panel& panel) {
             places.emplace_back(control->left, control->top, control->width, control->height);
     }
     return places;
-}
-
-std::vector<Placed> Placed_Texts(const Printing& printing) {
-    std::vector<Placed> placed;
-    for (const Print_Text& text : printing.texts) {
-        const QFontMetricsF metrics(Printing_Font(text.size));
-        const QString letters = QString::fromStdString(text.text);
-        const double width = metrics.horizontalAdvance(letters);
-        double left = text.at.x;
-        if (text.align == Align::Centre) left -= width / 2;
-        if (text.align == Align::Right) left -= width;
-        placed.push_back({text.text, metrics.tightBoundingRect(letters).translated(left, text.at.y)});
-    }
-    return placed;
 }
 
 // The drawings at the positions of switches.

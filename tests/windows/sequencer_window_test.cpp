@@ -3,7 +3,6 @@
 #include <QAccessible>
 #include <QComboBox>
 #include <QElapsedTimer>
-#include <QFontMetricsF>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -17,6 +16,7 @@
 #include "sequencer/engine.h"
 #include "seqwin/seqwin.h"
 #include "seqwin/seqwin_printing.h"
+#include "windows/printed.h"
 #include "windows/screen.h"
 
 namespace {
@@ -33,25 +33,6 @@ double Brightness(const QImage& image, QRect place) {
 
 QRect Cell_Place(int step, int row) {
     return {step * 12, row * 12, 11, 11};
-}
-
-struct Placed {
-    std::string text;
-    QRectF ink;
-};
-
-std::vector<Placed> Placed_Texts(const Printing& printing) {
-    std::vector<Placed> placed;
-    for (const Print_Text& text : printing.texts) {
-        const QFontMetricsF metrics(Printing_Font(text.size));
-        const QString letters = QString::fromStdString(text.text);
-        const double width = metrics.horizontalAdvance(letters);
-        double left = text.at.x;
-        if (text.align == Align::Centre) left -= width / 2;
-        if (text.align == Align::Right) left -= width;
-        placed.push_back({text.text, metrics.tightBoundingRect(letters).translated(left, text.at.y)});
-    }
-    return placed;
 }
 
 }  // namespace
