@@ -86,10 +86,10 @@ void Seq_Matrix_Widget::Move(int steps, int rows) {
 
 // In the middle of the cell.
 void Seq_Matrix_Widget::Press_Cell(Mouse_Button button) const {
-    Guarded_Event([&] {
-        Seq_Matrix_MouseDown(button, step_ * Seq_Pitch + Seq_Pitch / 2 - 1,
-                             row_ * Seq_Pitch + Seq_Pitch / 2 - 1);
-    });
+    constexpr int Middle = Seq_Pitch / 2 - 1;
+    const int column = step_ * Seq_Pitch + Middle;
+    const int row = row_ * Seq_Pitch + Middle;
+    Guarded_Event([&] { Seq_Matrix_MouseDown(button, column, row); });
 }
 
 QString Seq_Matrix_Widget::Spoken_Name() const {

@@ -17,7 +17,9 @@ namespace {
 // there.
 class House_Style : public QProxyStyle {
   public:
-    House_Style() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+    explicit House_Style(QObject* owner) : QProxyStyle(QStyleFactory::create("Fusion")) {
+        setParent(owner);
+    }
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override {
@@ -69,7 +71,7 @@ class House_Style : public QProxyStyle {
 }  // namespace
 
 void Style_Install() {
-    QApplication::setStyle(new House_Style);
+    QApplication::setStyle(new House_Style(qApp));
     const QColor text(0xec, 0xea, 0xe2);
     const QColor faint(0x80, 0x84, 0x88);
     const QColor accent(0x2b, 0x8f, 0x84);
