@@ -532,3 +532,22 @@ TEST_F(Spoken_On_Screen, draws_the_curve_by_keys) {
     speech->valueInterface()->setCurrentValue(5);
     EXPECT_NE(speech->text(QAccessible::Value), "5") << "nothing is drawn at no amplitude";
 }
+
+TEST_F(Spoken_On_Screen, greys_what_is_printed_beside_a_list_with_the_list) {
+    Start("[MIDI]\nOutput=Synth Out\nInput=Keys In\nAutoplay=0\n");
+    Do([] { FD_Show("Open_SYX"); });
+    for (const char* label : {"FD_SYX_Label_Note", "FD_SYX_Label_Velocity"}) {
+        EXPECT_FALSE(Widget(label)->isEnabled()) << label;
+    }
+    Press_Control(Widget("FD_SYX_CB_Autoplay"));
+    for (const char* label : {"FD_SYX_Label_Note", "FD_SYX_Label_Velocity"}) {
+        EXPECT_TRUE(Widget(label)->isEnabled()) << label;
+    }
+    Do(FD_Button_Cancel_Click);
+    Do([] { Menu(Menu_MIDI_Setup).chosen(); });
+    EXPECT_TRUE(Widget("Label4")->isEnabled());
+    QTest::keyClick(Widget("Enable"), Qt::Key_Space);
+    EXPECT_FALSE(Widget("Label4")->isEnabled());
+    EXPECT_FALSE(Widget("Label2")->isEnabled());
+    EXPECT_TRUE(Widget("Label_Channel")->isEnabled());
+}
