@@ -10,6 +10,7 @@
 
 #include "desk/dialog_lock.h"
 #include "desk/menus.h"
+#include "desk/timers.h"
 #include "desk/windows.h"
 #include "filedlg/file_controls.h"
 #include "filedlg/file_dlg.h"
@@ -26,6 +27,7 @@
 #include "panels/patch.h"
 #include "panels/reader_qt.h"
 #include "platform/gate.h"
+#include "platform/timer.h"
 #include "sequencer/sequence.h"
 #include "seqwin/seqwin.h"
 #include "synth/juno.h"
@@ -433,8 +435,10 @@ TEST_F(Spoken_On_Screen, takes_TAB_to_every_control_and_round_again) {
 
 TEST_F(Spoken_On_Screen, shows_where_the_keyboard_is) {
     Start();
-    Each_Window([this](const std::string& window, QWidget* root, const Panel*) {
+    Each_Window([](const std::string& window, QWidget* root, const Panel*) {
         SCOPED_TRACE(window);
+        root->window()->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(root->window()));
         std::vector<Heard_Control> heard;
         Walk(Speech(root), heard);
         for (const Heard_Control& control : heard) {
@@ -456,6 +460,7 @@ TEST_F(Spoken_On_Screen, shows_where_the_keyboard_is) {
                     other = elsewhere.widget;
             }
             ASSERT_NE(other, nullptr);
+            Timer_Stop(Timer1);  // blinks below, and not by the clock
             other->setFocus();
             const QImage without = look();
             control.widget->setFocus(Qt::MouseFocusReason);
@@ -464,9 +469,9 @@ TEST_F(Spoken_On_Screen, shows_where_the_keyboard_is) {
             const bool led = drawn != nullptr && std::string_view(drawn->Record().kind) == "led";
             if (led && !control.interface->state().checked) continue;
             const QImage with = look();
-            Do(Panel_Blink_Tick);
+            Guarded_Event(Panel_Blink_Tick);
             const QImage blinked = look();
-            Do(Panel_Blink_Tick);
+            Guarded_Event(Panel_Blink_Tick);
             const QImage blinked_again = look();
             const auto seen = [&](const QImage& picture) {
                 int pixels = 0;
