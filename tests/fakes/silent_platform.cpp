@@ -1,6 +1,7 @@
 // The smallest bodies of the platform, for figures and fuzz targets: nothing is shown and no time passes.
 // Ports, boxes and events are bodies of their own.
 #include "platform/display.h"
+#include "platform/slow_work.h"
 #include "platform/timer.h"
 #include "platform/wake_up.h"
 
@@ -32,6 +33,10 @@ bool System_Sound_Play(const std::string&) {
     return true;
 }
 void Beep() {}
+bool Slow_Work(std::function<void()> work, int) {
+    work();
+    return true;
+}
 
 void Wake_Up_Begin(Hook<void()>) {}
 void Wake_Up_End() {}
