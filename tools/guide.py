@@ -5,11 +5,13 @@ Usage: /usr/bin/python3 tools/guide.py GUIDE-FOLDER OUT-FOLDER
 
 README.md becomes index.html, every other page keeps its name. Links between
 pages and to headings are kept; a picture whose name ends in @2x shows at half
-its pixels.
+its pixels. The pictures are copied beside the pages, so the folder can be
+moved.
 """
 
 import os
 import re
+import shutil
 import struct
 import sys
 
@@ -99,6 +101,7 @@ def linked(match):
 
 
 def main(guide, out):
+    shutil.copytree(os.path.join(guide, "pictures"), os.path.join(out, "pictures"), dirs_exist_ok=True)
     pages = {}
     for name in os.listdir(guide):
         if name.endswith(".md"):

@@ -21,7 +21,11 @@ test_packages=(
     clang clang-format clang-tidy libclang-rt-14-dev
     jackd2 xvfb xauth xdotool imagemagick
     python3-mido python3-rtmidi
+    appstream desktop-file-utils
 )
+
+# What the portable archive needs besides the build: what it carries, and what puts it together.
+archive_packages=(qt6-wayland patchelf xz-utils python3-markdown)
 
 # Installs those of the named packages that are missing.
 install_missing() {

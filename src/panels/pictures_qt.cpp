@@ -49,6 +49,12 @@ const QPixmap& Picture_Pixmap(const Picture& picture, qreal ratio) {
     return place->second;
 }
 
+QIcon Program_Icon() {
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256}) icon.addFile(QString(":/app/%1.png").arg(size));
+    return icon;
+}
+
 QColor Ink_Colour(Ink ink) {
     switch (ink) {
         case Ink::Ground:

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QIcon>
 #include <QPainter>
 #include <QPixmap>
 #include <utility>
@@ -14,6 +15,9 @@ void Pictures_Open();
 
 // The drawing of a picture at this ratio; made once and kept. Null for Picture_Store::None.
 const QPixmap& Picture_Pixmap(const Picture& picture, qreal ratio);
+
+// The program's icon for its windows, in the sizes that desktops ask for.
+QIcon Program_Icon();
 
 QColor Ink_Colour(Ink ink);
 

@@ -1,12 +1,14 @@
 #include "platform/files.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 #include "platform/text.h"
 
@@ -52,6 +54,63 @@ int Open_Plain_File(const std::string& path) {
     ::close(descriptor);
     errno = reason;
     return -1;
+}
+
+// Whether the open file is the one of that name, empty now and ours alone as long as it is open.
+bool Taken_Over(int descriptor, const std::string& path) {
+    if (::flock(descriptor, LOCK_EX | LOCK_NB) != 0) return false;
+    struct stat open = {};
+    struct stat named = {};
+    // Another copy of the program may have put it into its place meanwhile.
+    return ::fstat(descriptor, &open) == 0 && ::lstat(path.c_str(), &named) == 0 &&
+           open.st_dev == named.st_dev && open.st_ino == named.st_ino && S_ISREG(open.st_mode) &&
+           open.st_nlink == 1 && ::ftruncate(descriptor, 0) == 0;
+}
+
+// Opens the file that will take the other's place, and tells its name; -1 when there can be none. It has
+// always the same name, so that what a killed program left is taken over and never piles up. One that
+// somebody else writes or owns is left alone, and a name of its own is found.
+int Open_Beside(const std::string& target, std::string& beside) {
+    constexpr mode_t For_Us = 0600;
+    beside = target + ".new";
+    const int descriptor =
+        ::open(beside.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, For_Us);
+    if (descriptor >= 0) {
+        if (Taken_Over(descriptor, beside)) return descriptor;
+        ::close(descriptor);
+    }
+    beside = target + ".XXXXXX";
+    return ::mkstemp(beside.data());
+}
+
+// What a file held before it was written over: enough to put it back when the disk is full half-way.
+struct Before {
+    bool there = false;
+    off_t size = 0;
+    std::optional<std::string> start;  // as many bytes as will be written; nothing when they cannot be read
+};
+
+Before Before_Writing(const std::string& path, std::size_t count) {
+    Before before;
+    before.there = Is_There(path);
+    const int descriptor = Open_Plain_File(path);
+    if (descriptor < 0) return before;
+    struct stat facts = {};
+    std::string start(count, '\0');
+    const ssize_t read = ::pread(descriptor, start.data(), start.size(), 0);
+    if (::fstat(descriptor, &facts) == 0 && read >= 0) {
+        start.resize(static_cast<std::size_t>(read));
+        before.size = facts.st_size;
+        before.start = std::move(start);
+    }
+    ::close(descriptor);
+    return before;
+}
+
+void Put_Back(int descriptor, const std::string& path, const Before& before) {
+    if (!before.there) ::unlink(path.c_str());
+    if (!before.start || ::lseek(descriptor, 0, SEEK_SET) != 0) return;
+    if (Write_All(descriptor, *before.start)) (void)!::ftruncate(descriptor, before.size);
 }
 
 int Open_For_Reading(const std::string& path) {
@@ -117,26 +176,29 @@ bool File_Replace(const std::string& path, const std::string& contents) {
     std::filesystem::path target = std::filesystem::canonical(path, error);
     if (error) target = path;
 
-    std::string beside = target.string() + ".XXXXXX";
-    const int descriptor = ::mkstemp(beside.data());
+    std::string beside;
+    const int descriptor = Open_Beside(target.string(), beside);
     if (descriptor < 0) return false;
 
     struct stat old = {};
     const mode_t mode = ::stat(target.c_str(), &old) == 0 ? (old.st_mode & 07777U) : 0644U;
-    bool done =
-        ::fchmod(descriptor, mode) == 0 && Write_All(descriptor, contents) && ::fsync(descriptor) == 0;
-    done = ::close(descriptor) == 0 && done;
-    done = done && ::rename(beside.c_str(), target.c_str()) == 0;
+    // It takes its place while it is ours: behind the close another copy of the program might take it over.
+    const bool done = ::fchmod(descriptor, mode) == 0 && Write_All(descriptor, contents) &&
+                      ::fsync(descriptor) == 0 && ::rename(beside.c_str(), target.c_str()) == 0;
     if (!done) ::unlink(beside.c_str());
+    ::close(descriptor);
     return done;
 }
 
 int File_Overwrite(const std::string& path, std::string_view contents) {
     constexpr mode_t For_Everybody = 0666;  // less what the user's mask takes away
+    const std::string found = Path_Found(path);
+    const Before before = Before_Writing(found, contents.size());
     const int descriptor =
-        ::open(Path_Found(path).c_str(), O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC, For_Everybody);
+        ::open(found.c_str(), O_WRONLY | O_CREAT | O_NONBLOCK | O_CLOEXEC, For_Everybody);
     if (descriptor < 0) return errno;
     const int written = Write_All(descriptor, contents) ? 0 : errno;
+    if (written != 0) Put_Back(descriptor, found, before);
     // Some file systems tell of a full disk only now.
     const int closed = ::close(descriptor) == 0 ? 0 : errno;
     return written != 0 ? written : closed;

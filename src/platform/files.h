@@ -34,12 +34,13 @@ std::optional<std::string> File_Read_Whole(const std::string& path);
 bool File_Is_Read_Only(const std::string& path);
 
 // Replaces the file in one step: a crash or a full disk leaves the old file or the new one, never half
-// of one. False when it failed; the old file is then as it was.
+// of one. False when it failed; the old file is then as it was. What a crash leaves beside it has one name,
+// the file's with ".new" behind it, and is gone with the next call.
 [[nodiscard]] bool File_Replace(const std::string& path, const std::string& contents);
 
 // Writes over the file from its start and leaves what lies behind, for files whose tail belongs to others.
-// Creates the file if need be. 0, or the error number (errno) of what failed; the file may have been
-// written in part then.
+// Creates the file if need be. 0, or the error number (errno) of what failed: the file is as it was then,
+// so far as the disk lets it, and one that was not there is not there.
 [[nodiscard]] int File_Overwrite(const std::string& path, std::string_view contents);
 
 // A file read byte by byte in a memory of its own constant size, however large the file is. Whatever

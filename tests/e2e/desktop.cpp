@@ -54,7 +54,7 @@ Desktop::~Desktop() {
 }
 
 void Desktop::Start_Jack() {
-    jack_ = std::make_unique<Jack_Server>();
+    if (jack_ == nullptr) jack_ = std::make_unique<Jack_Server>();
     Jack_Clients clients = jack_->Start_With(
         {Midi_Dump("witness"), {{"jack_midiseq", "sender", "48000", "0", "60", "8000"}, "sender:out"}});
     witness_ = std::move(clients[0]);
@@ -114,11 +114,15 @@ bool Desktop::Wait_For_Window(const std::string& title, bool there) {
     return Wait_For([&] { return Xdotool({"search", "--onlyvisible", "--name", title}).empty() != there; });
 }
 
+std::vector<std::string> Desktop::Picture(const std::string& place) {
+    Child_Process picture({"import", "-window", "root", "-crop", place, "+repage", "-depth", "8", "txt:-"});
+    picture.Wait_For_End(Patience);
+    return picture.Output();
+}
+
 // The panel is painted when its ground shows below the menu bar.
 int Desktop::Menu_Height() {
-    Child_Process picture({"import", "-window", "root", "-crop", "1x100+520+0", "-depth", "8", "txt:-"});
-    picture.Wait_For_End(Patience);
-    for (const std::string& line : picture.Output()) {
+    for (const std::string& line : Picture("1x100+520+0")) {
         if (line.find("#1B1D21") == std::string::npos) continue;
         return std::stoi(line.substr(line.find(',') + 1));
     }

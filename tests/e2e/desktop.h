@@ -21,6 +21,7 @@ class Desktop : public ::testing::Test {
     ~Desktop() override;
 
     // A JACK server with the witness "witness:input" and an instrument that could send, "sender:out".
+    // Again behind a server that has died.
     void Start_Jack();
     // Waits until the server has a port of that name, or has it no more.
     static bool Wait_For_Jack_Port(const std::string& name, bool there);
@@ -44,6 +45,9 @@ class Desktop : public ::testing::Test {
     std::string Xdotool(const std::vector<std::string>& arguments);
     void Move_To(int x, int y);
     void Press_Key(const std::string& key);
+
+    // A part of the screen, "WIDTHxHEIGHT+X+Y", as text, one line a pixel.
+    static std::vector<std::string> Picture(const std::string& place);
 
     // Waits until the witness has printed so many messages; all of them.
     std::vector<std::string> Witnessed(std::size_t count);

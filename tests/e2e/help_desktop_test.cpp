@@ -17,13 +17,6 @@ constexpr int Slider_X = Window_Left + 188;
 
 class Help_On_The_Desktop : public Desktop {
   protected:
-    // A part of the screen as text, one line a pixel.
-    static std::vector<std::string> Picture(const std::string& place) {
-        Child_Process picture(
-            {"import", "-window", "root", "-crop", place, "+repage", "-depth", "8", "txt:-"});
-        picture.Wait_For_End(10s);
-        return picture.Output();
-    }
     static std::vector<std::string> Description() {
         return Picture("290x300+" + std::to_string(Window_Left + 315) + "+" +
                        std::to_string(Window_Top + 45));

@@ -81,9 +81,7 @@ class Juno_On_The_Desktop : public Desktop {
     bool Bright_In_The_Graph(int x, int y) {
         const std::string place =
             "1x1+" + std::to_string(Graph_Left + x) + "+" + std::to_string(Menu_Height() + Graph_Top + y);
-        Child_Process picture({"import", "-window", "root", "-crop", place, "-depth", "8", "txt:-"});
-        picture.Wait_For_End(10s);
-        for (const std::string& line : picture.Output()) {
+        for (const std::string& line : Picture(place)) {
             const auto colour = line.find('#');
             if (colour == std::string::npos || line.find("0,0:") != 0) continue;
             const int red = std::stoi(line.substr(colour + 1, 2), nullptr, 16);

@@ -36,6 +36,7 @@ class Child_Process {
     int Wait_For_End(std::chrono::milliseconds limit);
 
     bool Is_Running();
+    pid_t Id() const { return process_; }
     void Signal(int number) const;  // SIGSTOP, SIGCONT, SIGTERM
     void Kill();                    // by force, and waits until it is gone
 

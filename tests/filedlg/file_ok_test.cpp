@@ -358,6 +358,16 @@ TEST_F(Save_As, fails_without_rights_and_leaves_the_file) {
     EXPECT_TRUE(Is_Open());
 }
 
+TEST_F(Save_As, tells_that_the_folder_was_removed_and_keeps_the_tone_unsaved) {
+    FD_Show("SaveAs_SYX");
+    std::filesystem::remove_all(Disk(""));
+    Expect_Box("Error 2: No such file or directory");
+    Type_And_Ok("new");
+    EXPECT_TRUE(Is_Open());
+    EXPECT_EQ(Tone_Saved, Flag_16::False);
+    EXPECT_EQ(Tone_Data[58], 6);
+}
+
 TEST_F(Save_As, writes_nothing_at_a_double_click_and_takes_the_name_only) {
     MIDI_Autosend = 1;
     FD_Show("SaveAs_SYX");
@@ -471,6 +481,28 @@ TEST_F(Save_Sequence_As, shows_why_it_failed_and_stays_open) {
         Expect_Selected_And_Open(before);
         EXPECT_EQ(Seq_Saved, Flag_8::False);
     }
+}
+
+TEST_F(Save_Sequence_As, tells_that_the_folder_was_removed_and_keeps_the_sequence_unsaved) {
+    FD_Show("SaveAs_SEQ");
+    std::filesystem::remove_all(Disk(""));
+    Expect_Box("tune.seq : File not found");
+    Type_And_Ok("tune");
+    EXPECT_TRUE(Is_Open());
+    EXPECT_EQ(Seq_Saved, Flag_8::False);
+    EXPECT_EQ(Seq_Notes[5], 127);
+}
+
+TEST_F(Save_Sequence_As, fails_without_rights_and_leaves_the_folder_as_it_is) {
+    std::filesystem::permissions(Disk(""),
+                                 std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
+    FD_Show("SaveAs_SEQ");
+    Expect_Box("tune.seq : Permission denied");
+    const Plain_User user;
+    Type_And_Ok("tune");
+    EXPECT_TRUE(Is_Open());
+    EXPECT_EQ(Seq_Saved, Flag_8::False);
+    EXPECT_FALSE(std::filesystem::exists(Disk("tune.seq")));
 }
 
 TEST_F(Save_Sequence_As, tries_again_behind_a_failure) {

@@ -193,6 +193,49 @@ TEST_F(Folder_Button, says_that_it_exists_without_rights) {
     New_Folder();
 }
 
+TEST_F(Folder_Button, neither_makes_nor_deletes_anything_in_a_folder_that_was_removed) {
+    Press_Folder(Disk(""));
+    std::filesystem::remove_all(Disk(""));
+    Answer_Input("new");
+    At_Next_Turn([] {
+        At_Next_Turn([] {
+            EXPECT_EQ(Input_Dialog.prompt, Another);
+            Input_Cancel_Click();
+        });
+    });
+    New_Folder();
+    FD_Selected = "a.syx";
+    FD_Selected_Kind = "File";
+    Type("a.syx");
+    Answer_With("Delete A.SYX ?", Answer::Yes);
+    Expect_Box("A.SYX could not be deleted.");
+    Delete();
+    FD_Selected = Disk("empty");
+    FD_Selected_Kind = "Dir";
+    Answer_With(Question(Disk("empty")), Answer::Yes);
+    Expect_Box(Upper_Text(Disk("empty")) + " could not be removed. The directory is not empty.");
+    Delete();
+    EXPECT_TRUE(Is_Open());
+    EXPECT_FALSE(std::filesystem::exists(Disk("")));
+}
+
+TEST_F(Folder_Button, deletes_no_file_and_no_folder_without_rights) {
+    FD_List_Dirs_Refresh();
+    std::filesystem::permissions(Disk(""),
+                                 std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
+    const Plain_User user;
+    Press_File("a.syx");
+    Answer_With("Delete A.SYX ?", Answer::Yes);
+    Expect_Box("A.SYX could not be deleted.");
+    Delete();
+    Press_Folder(Disk("empty"));
+    Answer_With(Question(Disk("empty")), Answer::Yes);
+    Expect_Box(Upper_Text(Disk("empty")) + " could not be removed. The directory is not empty.");
+    Delete();
+    EXPECT_TRUE(std::filesystem::exists(Disk("a.syx")));
+    EXPECT_TRUE(std::filesystem::exists(Disk("empty")));
+}
+
 TEST_F(Folder_Button, makes_no_folder_in_a_file) {
     Press_File("a.syx");
     Answer_Input("new");

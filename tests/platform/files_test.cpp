@@ -1,9 +1,13 @@
 #include "platform/files.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -172,4 +176,56 @@ TEST(File, is_as_it_was_when_the_new_one_does_not_fit_on_the_disk) {
     EXPECT_FALSE(replaced);
     EXPECT_EQ(Read(Path("x")), "the old contents");
     EXPECT_EQ(Entries_In_Folder(), 1U);
+}
+
+TEST(File, that_is_written_over_is_as_it_was_when_the_disk_is_full_halfway) {
+    Write(Path("old"), "the old contents");
+    ::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit = {};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limit), 0);
+    const rlimit narrow = {20, limit.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &narrow), 0);
+    const int over_old = File_Overwrite(Path("old"), std::string(100, 'x'));
+    const int new_one = File_Overwrite(Path("new"), std::string(100, 'x'));
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
+    EXPECT_EQ(over_old, EFBIG);
+    EXPECT_EQ(Read(Path("old")), "the old contents");
+    EXPECT_EQ(new_one, EFBIG);
+    EXPECT_EQ(Entries_In_Folder(), 1U) << "what was not there is not there";
+}
+
+TEST(File, takes_over_what_a_killed_program_left_beside_it) {
+    Write(Path("x.new"), "half of");
+    EXPECT_TRUE(File_Replace(Path("x"), "whole"));
+    EXPECT_EQ(Read(Path("x")), "whole");
+    EXPECT_EQ(Entries_In_Folder(), 1U);
+}
+
+TEST(File, is_replaced_while_another_copy_of_the_program_replaces_it_too) {
+    Write(Path("x"), "old");
+    Write(Path("x.new"), "theirs, not");
+    const int theirs = ::open(Path("x.new").c_str(), O_WRONLY);
+    ASSERT_EQ(::flock(theirs, LOCK_EX), 0);
+    EXPECT_TRUE(File_Replace(Path("x"), "ours"));
+    EXPECT_EQ(Read(Path("x")), "ours");
+    EXPECT_EQ(Read(Path("x.new")), "theirs, not");
+    EXPECT_EQ(Entries_In_Folder(), 2U);
+    ::close(theirs);
+}
+
+TEST(File, is_replaced_whatever_bears_the_name_beside_it) {
+    std::filesystem::create_directory(Path("x.new"));
+    EXPECT_TRUE(File_Replace(Path("x"), "1"));
+    std::filesystem::remove(Path("x.new"));
+    Write(Path("precious"), "precious");
+    std::filesystem::create_symlink(Path("precious"), Path("x.new"));
+    EXPECT_TRUE(File_Replace(Path("x"), "2"));
+    std::filesystem::remove(Path("x.new"));
+    std::filesystem::create_hard_link(Path("precious"), Path("x.new"));
+    EXPECT_TRUE(File_Replace(Path("x"), "3"));
+    std::filesystem::remove(Path("x.new"));
+    ASSERT_EQ(::mkfifo(Path("x.new").c_str(), 0600), 0);
+    EXPECT_TRUE(File_Replace(Path("x"), "4"));
+    EXPECT_EQ(Read(Path("x")), "4");
+    EXPECT_EQ(Read(Path("precious")), "precious");
 }

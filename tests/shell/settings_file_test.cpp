@@ -6,11 +6,11 @@
 
 namespace {
 
-// Hears every file that comes into a folder under a name, also over an old one.
+// Hears every file that comes into a folder under a name, also over an old one, and every change of one.
 class Written_Names {
   public:
     explicit Written_Names(const std::string& folder) : descriptor_(::inotify_init1(IN_NONBLOCK)) {
-        EXPECT_GE(::inotify_add_watch(descriptor_, folder.c_str(), IN_MOVED_TO | IN_CLOSE_WRITE), 0);
+        EXPECT_GE(::inotify_add_watch(descriptor_, folder.c_str(), IN_MOVED_TO | IN_MODIFY), 0);
     }
     ~Written_Names() { ::close(descriptor_); }
     Written_Names(const Written_Names&) = delete;
