@@ -167,7 +167,7 @@ void Replacing(const std::string& path, std::string_view bytes) {
     Check(changes.size() == 3 && changes[0].path == changes[1].path);
     Check(changes[1].kind == Disk_Change::Kind::Removed_File);
     const std::string& replaced = changes[2].path;
-    Check(changes[0].path.starts_with(replaced) && changes[0].path.size() == replaced.size() + 7);
+    Check_Equal(changes[0].path, replaced + ".new");
     Check(Fenced_Read(replaced) == bytes && !File_Is_Read_Only(replaced));
     const auto before = Files.find(replaced);
     if (before == Files.end()) {
