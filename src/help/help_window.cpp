@@ -257,8 +257,11 @@ void Help_Window::Show_Contents() {
 
     if (keyword_focused_ != form.keyword_focused) {
         keyword_focused_ = form.keyword_focused;
-        keyword_->setFocus();
-        keyword_->selectAll();
+        // Asked for while another page stands open, the search leaves that page, and the keyboard with it.
+        if (form.page == "Search") {
+            keyword_->setFocus();
+            keyword_->selectAll();
+        }
     }
 }
 

@@ -185,6 +185,8 @@ void Check_Focus() {
     const QWidget* const window = QApplication::activeWindow();
     if (window == nullptr || !window->isVisible() || QApplication::activePopupWidget() != nullptr) return;
     const QWidget* const focus = QApplication::focusWidget();
+    // The toolkit's own lists come and go, and may take the keyboard with them until the next press.
+    if (focus != nullptr && focus->window()->windowType() == Qt::Popup) return;
     if (focus != nullptr) {
         Expect(focus->isVisible() && focus->isEnabled(),
                "what has the keyboard can be worked: " + focus->objectName().toStdString() + " " +

@@ -12,6 +12,7 @@
 #include "help/howto.h"
 #include "help/howto_printing.h"
 #include "panels/pictures_qt.h"
+#include "platform/gate.h"
 #include "synth/tone.h"
 #include "windows/screen.h"
 
@@ -209,6 +210,14 @@ TEST_F(Help_On_Screen, is_practised_on_by_the_keys_and_walked_by_tab) {
     EXPECT_EQ(Help_HName.text, "ON");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(Focused(), "LED_SW_2") << "TAB comes back to the selected lamp";
+}
+
+TEST_F(Help_On_Screen, leaves_the_keyboard_on_the_open_page_when_the_search_is_asked_for_again) {
+    Open(Menu_Help_Howto);
+    Widget("Slider")->setFocus();
+    Guarded_Event([] { Menu(Menu_Help_Search).chosen(); });
+    EXPECT_EQ(Visible_Frames(), QStringList{"Frame_Howto"});
+    EXPECT_EQ(Focused(), "Slider");
 }
 
 TEST_F(Help_On_Screen, is_closed_by_escape_on_every_page) {
