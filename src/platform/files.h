@@ -1,7 +1,8 @@
 // Files as the program needs them. Plain bytes, no toolkit. Body: files.cpp.
 //
 // Names are found without regard to case: folders come back from the settings in lower case, recent files
-// in upper case, and they mean what is there.
+// in upper case, and they mean what is there. No name holds a zero character: whoever takes one from
+// outside cuts it there (Cut_At_Zero).
 #pragma once
 
 #include <array>
