@@ -1,17 +1,22 @@
-// What the program costs from outside: from its start to the first painted panel, the memory it holds, and
-// the processor time of the idle program with the blink on. Needs a display and a built program:
+// What the program costs from outside: from its start to the first painted panel, and the memory it holds.
+// Needs a display and a built program:
 //
-//   start_bench PROGRAM [RUNS]
+//   start_bench RUNS PROGRAM [ARGUMENT]
+//   start_bench bare               is itself a program: one empty window with the panel's ground, and
+//   nothing else
 //
-// The panel counts as painted when its ground shows on the screen, looked at every half millisecond.
-#include <unistd.h>
+// Prints milliseconds and megabytes, each the middle one of the runs. The panel counts as painted when its
+// ground shows on the screen, looked at every half millisecond.
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QGuiApplication>
 #include <QPixmap>
 #include <QProcess>
 #include <QScreen>
+#include <QShortcut>
 #include <QThread>
+#include <QWidget>
 #include <algorithm>
 #include <cstdio>
 #include <vector>
@@ -41,37 +46,43 @@ qint64 Own_Kilobytes(qint64 process) {
     return Status_Kilobytes(process, "RssAnon:") + Status_Kilobytes(process, "RssFile:");
 }
 
-// User and system time so far, in seconds.
-double Processor_Seconds(qint64 process) {
-    QFile stat(QString("/proc/%1/stat").arg(process));
-    if (!stat.open(QIODevice::ReadOnly)) return 0;
-    const QByteArray text = stat.readAll();
-    const QList<QByteArray> fields = text.mid(text.lastIndexOf(')') + 2).split(' ');
-    return (fields[11].toDouble() + fields[12].toDouble()) / static_cast<double>(sysconf(_SC_CLK_TCK));
-}
-
 double Median(std::vector<double> values) {
     std::sort(values.begin(), values.end());
     return values[values.size() / 2];
 }
 
+// What the toolkit alone costs, at the panel's place and size.
+int Bare_Window(int argument_count, char** arguments) {
+    QApplication application(argument_count, arguments);
+    QWidget window;
+    window.setGeometry(0, 0, 541, 508);
+    window.setPalette(Ground);
+    const QShortcut end(QKeySequence("Ctrl+X"), &window, [] { QApplication::quit(); });
+    window.show();
+    window.activateWindow();  // no window manager does it
+    return QApplication::exec();
+}
+
 }  // namespace
 
 int main(int argument_count, char** arguments) {
+    if (argument_count == 2 && QByteArray(arguments[1]) == "bare")
+        return Bare_Window(argument_count, arguments);
     QGuiApplication application(argument_count, arguments);
-    if (argument_count < 2) {
-        std::fprintf(stderr, "usage: start_bench PROGRAM [RUNS]\n");
+    if (argument_count < 3) {
+        std::fprintf(stderr, "usage: start_bench RUNS PROGRAM [ARGUMENT]\n");
         return 2;
     }
-    const int runs = argument_count > 2 ? std::atoi(arguments[2]) : 9;
+    const int runs = std::atoi(arguments[1]);
+    QStringList passed_on;
+    for (int place = 3; place < argument_count; ++place) passed_on << arguments[place];
     std::vector<double> starts;
     std::vector<double> memory;
-    double idle = 0;
     for (int run = 0; run <= runs; ++run) {
         QProcess program;
         QElapsedTimer clock;
         clock.start();
-        program.start(arguments[1], {});
+        program.start(arguments[2], passed_on);
         while (!Panel_Shows() && clock.elapsed() < 5000) QThread::usleep(500);
         const double milliseconds = static_cast<double>(clock.nsecsElapsed()) / 1e6;
         program.waitForStarted();
@@ -80,19 +91,14 @@ int main(int argument_count, char** arguments) {
             starts.push_back(milliseconds);
             memory.push_back(static_cast<double>(Own_Kilobytes(program.processId())) / 1024);
         }
-        if (run == runs) {
-            constexpr int Idle_Seconds = 10;
-            const double before = Processor_Seconds(program.processId());
-            QThread::sleep(Idle_Seconds);
-            idle = (Processor_Seconds(program.processId()) - before) / Idle_Seconds * 100;
-        }
         // Ended by its own menu: a JACK server is busy for seconds behind a client that was killed.
         QProcess::execute("xdotool", {"key", "ctrl+x"});
-        if (!program.waitForFinished(5000)) program.kill();
+        if (!program.waitForFinished(5000)) {
+            program.kill();
+            program.waitForFinished();
+        }
         QThread::msleep(500);
     }
-    std::printf("start to the first painted panel, median of %d: %.0f ms\n", runs, Median(starts));
-    std::printf("resident memory (private and files), median: %.0f MB\n", Median(memory));
-    std::printf("idle with the blink on: %.2f %% of a core\n", idle);
+    std::printf("%.0f %.0f\n", Median(starts), Median(memory));
     return 0;
 }

@@ -1,9 +1,11 @@
 // What stands behind every event while the program's windows are open, the oscillator's among them: the
-// comparison of all widgets with their records; and what a step of the oscillator costs as the program runs
-// it, from the tick to the painted cursor. Run it on a screen, or with QT_QPA_PLATFORM=offscreen.
+// comparison of all widgets with their records; what a new tone on the panel costs until it is painted; and
+// what a step of the oscillator costs as the program runs it, from the tick to the painted cursor. Run it
+// on a screen, or with QT_QPA_PLATFORM=offscreen.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <algorithm>
 
 #include "desk/windows.h"
 #include "midi/out.h"
@@ -16,6 +18,7 @@
 #include "shell/wiring.h"
 #include "synth/profile.h"
 #include "synth/tone.h"
+#include "synth/views.h"
 
 namespace {
 
@@ -25,6 +28,18 @@ void Windows_Compared(benchmark::State& state) {
     for (auto unused : state) {
         (void)unused;
         Windows_Show_Changes();
+    }
+}
+
+// Every control moves, to and fro.
+void Panel_Refresh_Painted(benchmark::State& state) {
+    std::uint8_t value = 0;
+    for (auto unused : state) {
+        (void)unused;
+        value ^= 0x7F;
+        std::fill(Tone_Data.begin() + Tone_Name_Size, Tone_Data.end(), value);
+        Guarded_Event([] { Panel_Apply_Tone(); });
+        Event_Loop_Turn();
     }
 }
 
@@ -40,6 +55,7 @@ void Oscillator_Step_On_Screen(benchmark::State& state) {
 #define FIGURES(name) \
     BENCHMARK(name)->Repetitions(9)->ReportAggregatesOnly(true)->Unit(benchmark::kMicrosecond)
 FIGURES(Windows_Compared);
+FIGURES(Panel_Refresh_Painted);
 FIGURES(Oscillator_Step_On_Screen);
 #undef FIGURES
 

@@ -4,8 +4,8 @@
 #include <cstdio>
 
 #include "desk/windows.h"
-#include "panels/control_widget.h"
 #include "panels/pictures_qt.h"
+#include "panels/spoken_qt.h"
 #include "platform/gate.h"
 #include "platform/program.h"
 #include "shell/app_window.h"
@@ -32,7 +32,7 @@ int main(int argument_count, char** arguments) {
     Style_Install();
     Pictures_Open();
     QApplication::setWindowIcon(Program_Icon());
-    Control_Widgets_Speak();
+    Widgets_Speak();
     Program_Wire();
     Program_Leave_Home();
 

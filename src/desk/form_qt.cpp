@@ -1,5 +1,6 @@
 #include "desk/form_qt.h"
 
+#include <QLabel>
 #include <QSignalBlocker>
 
 void Show_List(QComboBox& widget, const Drop_Down& record) {
@@ -13,7 +14,12 @@ void Show_List(QComboBox& widget, const Drop_Down& record) {
         widget.addItems(entries);
     }
     widget.setCurrentIndex(record.selected);
+    if (widget.isEnabledTo(widget.parentWidget()) == record.enabled) return;
     widget.setEnabled(record.enabled);
+    // What is printed beside it goes grey with it.
+    for (QLabel* label : widget.parentWidget()->findChildren<QLabel*>(Qt::FindDirectChildrenOnly)) {
+        if (label->buddy() == &widget) label->setEnabled(record.enabled);
+    }
 }
 
 void Show_Box(QCheckBox& widget, const Check_Box& record) {

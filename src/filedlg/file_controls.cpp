@@ -29,9 +29,10 @@ Drawn_Button Small(const char* name, const char* symbol, const char* spoken, int
 }
 
 // The lamp stands at the left end; the caption to its right belongs to the control.
-Lamp Made_Lamp(const char* name, const char* spoken, int left, int top) {
+Lamp Made_Lamp(const char* name, const char* spoken, Spoken_Role role, int left, int top) {
     Lamp made;
-    made.control = {.name = name, .spoken_name = spoken, .window = &File_Dlg, .left = left, .top = top};
+    made.control = {
+        .name = name, .spoken_name = spoken, .role = role, .window = &File_Dlg, .left = left, .top = top};
     made.control.width = 104;
     made.control.height = 16;
     made.control.focusable = true;
@@ -76,11 +77,11 @@ Drawn_Button FD_Button_Delete = Small("FD_Button_Delete", "FD_Button_Delete_Pic"
 
 FD_Panel FD_Shown_Panel = FD_Panel::None;
 
-Lamp FD_SYX_CB_Autoplay = Made_Lamp("FD_SYX_CB_Autoplay", "Autoplay", 16, 44);
-Lamp FD_SYX_CB_Autosend = Made_Lamp("FD_SYX_CB_Autosend", "Autosend", 16, 84);
+Lamp FD_SYX_CB_Autoplay = Made_Lamp("FD_SYX_CB_Autoplay", "Autoplay", Spoken_Role::Check_Box, 16, 44);
+Lamp FD_SYX_CB_Autosend = Made_Lamp("FD_SYX_CB_Autosend", "Autosend", Spoken_Role::Check_Box, 16, 84);
 Option_Group FD_SYX_OB_Soundcheck = {
-    Made_Lamp("FD_SYX_OB_Soundcheck_0", "Soundcheck", 156, 44),
-    Made_Lamp("FD_SYX_OB_Soundcheck_1", "Sequence", 156, 84),
+    Made_Lamp("FD_SYX_OB_Soundcheck_0", "Soundcheck", Spoken_Role::Radio_Button, 156, 44),
+    Made_Lamp("FD_SYX_OB_Soundcheck_1", "Sequence", Spoken_Role::Radio_Button, 156, 84),
 };
 Drop_Down FD_SYX_SoundCheck_Note_List;
 Drop_Down FD_SYX_SoundCheck_Velocity_List;
@@ -89,7 +90,7 @@ Drawn_Button FD_SYX_Button_Start =
 Drawn_Button FD_SYX_Button_Stop =
     Small("FD_SYX_Button_Stop", "FD_SYX_Button_Stop_Pic", "Stop the sequence", 304, 81);
 
-Lamp FD_SEQ_CB_Autoplay = Made_Lamp("FD_SEQ_CB_Autoplay", "Autoplay", 16, 44);
+Lamp FD_SEQ_CB_Autoplay = Made_Lamp("FD_SEQ_CB_Autoplay", "Autoplay", Spoken_Role::Check_Box, 16, 44);
 Drawn_Button FD_SEQ_Button_Start =
     Small("FD_SEQ_Button_Start", "FD_SEQ_Button_Start_Pic", "Play the sequence", 16, 81);
 Drawn_Button FD_SEQ_Button_Stop =

@@ -136,12 +136,12 @@ void File_Dlg_Window::Build_Panels() {
     seq_->setObjectName("FD_SEQ");
     osc_->setObjectName("FD_OSC");
 
-    Label("FD_SYX_Label_Note", "Note", {276, 43, 40, 18}, syx_, nullptr);
     note_ = List("FD_SYX_SoundCheck_Note_List", "Soundcheck note", {312, 39, 66, 26}, syx_,
                  FD_SYX_SoundCheck_Note_List_Click);
-    Label("FD_SYX_Label_Velocity", "Velocity", {392, 43, 56, 18}, syx_, nullptr);
+    Label("FD_SYX_Label_Note", "Note", {276, 43, 40, 18}, syx_, note_);
     velocity_ = List("FD_SYX_SoundCheck_Velocity_List", "Soundcheck velocity", {446, 39, 58, 26}, syx_,
                      FD_SYX_SoundCheck_Velocity_List_Click);
+    Label("FD_SYX_Label_Velocity", "Velocity", {392, 43, 56, 18}, syx_, velocity_);
     preview_ = new Sequence_Preview(seq_);
     preview_->move(430, 13);
     (new Curve_Preview(osc_))->setGeometry(14, 30, 484, 90);

@@ -168,8 +168,9 @@ void Act(void (*Action::*kind)()) {
 
 }  // namespace
 
+// What is pasted may hold a zero, and for the disk a name ends there.
 void FD_FileName_Change(const std::string& text) {
-    FD_FileName.text = text;
+    FD_FileName.text = Cut_At_Zero(text);
 }
 
 void FD_Button_Ok_Click() {

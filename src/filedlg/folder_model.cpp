@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
+#include <memory>
 #include <string_view>
 
 #include "platform/files.h"
 #include "platform/folder_list.h"
+#include "platform/slow_work.h"
 #include "platform/text.h"
 #include "platform/volumes.h"
 
@@ -30,12 +32,47 @@ bool Lies_On(const std::string& path, const std::string& drive) {
     return path.starts_with(drive) && path[drive.size()] == Path_Separator;
 }
 
+// A share whose server is silent may never answer. A disk that has to start up does within this time.
+constexpr int Patience_Milliseconds = 20'000;
+
+// A folder and what is in it.
+struct Listing {
+    std::string path;
+    Folder_Contents contents;
+};
+
+// `where` finds the folder, on the disk as well.
+Listing Read_Patiently(const std::string& path, std::string (*where)(const std::string& path)) {
+    const auto listing = std::make_shared<Listing>();
+    const bool answered = Slow_Work(
+        [listing, path, where] {
+            listing->path = where(path);
+            listing->contents = Folder_Read(listing->path);
+        },
+        Patience_Milliseconds);
+    if (answered) return std::move(*listing);
+    Listing silent = {path, {}};
+    silent.contents.error = ETIMEDOUT;
+    return silent;
+}
+
+// A folder as somebody wrote it down, by its path as it is written on the disk.
+Listing Found(const std::string& path) {
+    return Read_Patiently(path, Plain_Path);
+}
+
+// A folder by its path on the disk.
+Folder_Contents Contents_Of(const std::string& path) {
+    return Read_Patiently(path, [](const std::string& same) { return same; }).contents;
+}
+
 // A missing folder on a volume that is missing itself: the medium was pulled.
-int Reason(int error, const std::string& path) {
+int Reason(const Listing& listing) {
+    const int error = listing.contents.error;
     if (error != ENOENT) return error;
-    const std::string drive = Drive_Of(path);
+    const std::string drive = Drive_Of(listing.path);
     if (drive == Root) return error;
-    return Folder_Read(drive).error == 0 ? error : ENODEV;
+    return Contents_Of(drive).error == 0 ? error : ENODEV;
 }
 
 std::vector<std::string> Levels_Of(const std::string& path) {
@@ -147,22 +184,20 @@ void FD_List_Drives_Select(const std::string& drive) {
 }
 
 int FD_List_Dirs_Set_Path(const std::string& path) {
-    const std::string plain = Plain_Path(path);
-    const Folder_Contents contents = Folder_Read(plain);
-    if (contents.error != 0) return Reason(contents.error, plain);
-    Show_Folders(plain, contents.folders);
+    const Listing listing = Found(path);
+    if (listing.contents.error != 0) return Reason(listing);
+    Show_Folders(listing.path, listing.contents.folders);
     return 0;
 }
 
 void FD_List_Dirs_Refresh() {
-    Show_Folders(FD_List_Dirs.path, Folder_Read(FD_List_Dirs.path).folders);
+    Show_Folders(FD_List_Dirs.path, Contents_Of(FD_List_Dirs.path).folders);
 }
 
 int FD_List_Files_Set_Path(const std::string& path) {
-    const std::string plain = Plain_Path(path);
-    const Folder_Contents contents = Folder_Read(plain);
-    if (contents.error != 0) return Reason(contents.error, plain);
-    Show_Files(plain, contents.files);
+    const Listing listing = Found(path);
+    if (listing.contents.error != 0) return Reason(listing);
+    Show_Files(listing.path, listing.contents.files);
     return 0;
 }
 
@@ -172,7 +207,7 @@ void FD_List_Files_Set_Pattern(const std::string& pattern) {
 }
 
 void FD_List_Files_Refresh() {
-    Show_Files(FD_List_Files.path, Folder_Read(FD_List_Files.path).files);
+    Show_Files(FD_List_Files.path, Contents_Of(FD_List_Files.path).files);
 }
 
 int FD_List_Files_Set_FileName(const std::string& typed) {

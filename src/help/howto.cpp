@@ -6,6 +6,7 @@
 #include "desk/timers.h"
 #include "panels/editor.h"
 #include "panels/knob_printing.h"
+#include "panels/spoken.h"
 #include "panels/steps.h"
 #include "panels/tune_knob.h"
 #include "synth/tuning.h"
@@ -198,6 +199,14 @@ std::string Spoken_Value(const Control& control) {
     return Help_Demo_Text(demo, Help_Demo_Values[demo]);
 }
 
+std::optional<Control_Scale> Scale(const Control& control) {
+    if (&control == &Help_Pos_Sw) return Scale_Of(Control_Type::Four_Way, Help_Demo_Values[Demo_Pos_Sw]);
+    if (&control == &Help_Slider) return Scale_Of(Control_Type::Slider, Help_Demo_Values[Demo_Slider]);
+    if (&control == &Help_Switch) return Scale_Of(Control_Type::Two_Way, Help_Demo_Values[Demo_Switch]);
+    if (Is_Tune(control)) return Scale_Of(Control_Type::Tune_Knob, Help_Demo_Values[Demo_Tune]);
+    return {};
+}
+
 }  // namespace
 
 std::array<std::uint8_t, 9> Help_Demo_Values = {0, 56};  // the knob stands at 0 semitones
@@ -236,6 +245,7 @@ const Panel Howto_Panel = {
         .pointer_moved_across = Pointer_Moved_Across,
     },
     .spoken_value = Spoken_Value,
+    .scale = Scale,
 };
 
 std::string Help_Demo_Text(std::size_t demo, std::uint8_t value) {

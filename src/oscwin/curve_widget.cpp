@@ -1,12 +1,15 @@
 #include "oscwin/curve_widget.h"
 
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <algorithm>
 #include <cmath>
 
 #include "oscwin/oscwin.h"
+#include "panels/pictures_qt.h"
 #include "platform/gate.h"
 
 namespace {
@@ -21,6 +24,10 @@ const QColor Played(0x6c, 0xff, 0xe2, 0x38);  // the column of the step that sou
 
 // A quarter and three quarters of the height: where the presets turn.
 constexpr int Mark_Rows[] = {31, 95};
+
+// The row of value 0, and what the keys of a page draw by.
+constexpr int Lowest_Row = 127;
+constexpr int Page = 16;
 
 constexpr double Curve_Width = 2;
 constexpr double Halo_Width = 5;
@@ -49,11 +56,12 @@ QLineF Line(const Osc_Line& line) {
 
 Curve_Widget::Curve_Widget(QWidget* parent) : QWidget(parent) {
     setObjectName("Picture1");
-    setAccessibleName("Oscillator curve");
+    setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::CrossCursor);
 }
 
 void Curve_Widget::Show_Lines() {
+    Announce_Changes(*this);
     if (lines_ == Osc_Line1 && zero_row_ == Osc_HLine) return;
     lines_ = Osc_Line1;
     zero_row_ = Osc_HLine;
@@ -107,6 +115,68 @@ void Curve_Widget::paintEvent(QPaintEvent*) {
     painter.fillRect(QRect(cursor_, 0, 1, height()), Cursor);
     painter.setRenderHint(QPainter::Antialiasing);
     Paint_Stairs(painter);
+    if (!hasFocus()) return;
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setPen(QPen(Ink_Colour(Ink::Heading), 1));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.drawRect(QRect(point_ * Osc_Point_Width, 0, Osc_Point_Width, height() - 1));
+}
+
+void Curve_Widget::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+        case Qt::Key_Left:
+            return Move(-1);
+        case Qt::Key_Right:
+            return Move(1);
+        default:
+            break;
+    }
+    const std::pair<int, int> keys[] = {
+        {Qt::Key_Up, Value() + 1},          {Qt::Key_Down, Value() - 1}, {Qt::Key_PageUp, Value() + Page},
+        {Qt::Key_PageDown, Value() - Page}, {Qt::Key_Home, Lowest_Row},  {Qt::Key_End, 0}};
+    for (const auto& [key, value] : keys) {
+        if (key == event->key()) return Guarded_Event([this, wanted = value] { Enter(wanted); });
+    }
+    QWidget::keyPressEvent(event);
+}
+
+void Curve_Widget::Move(int points) {
+    point_ = std::clamp(point_ + points, 0, static_cast<int>(Osc_Count) - 1);
+    Announce_Changes(*this);
+    update();
+}
+
+int Curve_Widget::Value() const {
+    return Lowest_Row - Osc_Line1[static_cast<std::size_t>(point_)].y1;
+}
+
+// As if the pointer had drawn there.
+void Curve_Widget::Enter(double value) {
+    const int column = point_ * Osc_Point_Width + Osc_Point_Width / 2;
+    const int row = Lowest_Row - static_cast<int>(std::clamp(std::round(value), 0.0, 1.0 * Lowest_Row));
+    Osc_Picture1_MouseDown(Osc_Left_Button, column, row);
+    Osc_Picture1_MouseMove(Osc_Left_Button, column, row);
+    Osc_Picture1_MouseUp();
+}
+
+QString Curve_Widget::Spoken_Name() const {
+    return QString("Curve, point %1 of %2").arg(point_ + 1).arg(Osc_Count);
+}
+
+QString Curve_Widget::Spoken_Value() const {
+    return QString::number(Value());
+}
+
+std::optional<Control_Scale> Curve_Widget::Scale() const {
+    return Control_Scale{1.0 * Value(), 0, Lowest_Row};
+}
+
+std::vector<Speaking::Action> Curve_Widget::Actions() {
+    using Names = QAccessibleActionInterface;
+    return {{Names::increaseAction(), [this] { Enter(Value() + 1); }},
+            {Names::decreaseAction(), [this] { Enter(Value() - 1); }},
+            {Names::previousPageAction(), [this] { Move(-1); }},
+            {Names::nextPageAction(), [this] { Move(1); }}};
 }
 
 void Curve_Widget::mousePressEvent(QMouseEvent* event) {

@@ -117,6 +117,16 @@ Oscillator_Window::Oscillator_Window(QMainWindow* parent)
     amplitude_ = Number("Label4", Osc_Number_Place(Osc_Rails[Osc_Rail_Amplitude]));
     offset_ = Number("Label3", Osc_Number_Place(Osc_Rails[Osc_Rail_Offset]));
     interval_ = Number("Label1", Osc_Number_Place(Osc_Rails[Osc_Rail_Time]));
+    // As it lies on the window: left to right, and down in each part.
+    std::vector<QWidget*> order = {curve_, findChild<QWidget*>(Osc_Start.name),
+                                   findChild<QWidget*>(Osc_Stop.name)};
+    order.insert(order.end(), rails_.begin(), rails_.end());
+    order.push_back(targets_);
+    for (Control_Widget* control : controls_) {
+        const Control& record = control->Record();
+        if (record.focusable && record.role != Spoken_Role::By_Kind) order.push_back(control);
+    }
+    for (std::size_t next = 1; next < order.size(); ++next) setTabOrder(order[next - 1], order[next]);
     next_frame_.setSingleShot(true);
     connect(&next_frame_, &QTimer::timeout, this, &Oscillator_Window::Show_Running);
 }

@@ -43,8 +43,10 @@ Control Plain(const char* name, const char* spoken_name, bool focusable) {
 
 std::array<Control, Osc_Preset_Count> Lamps() {
     std::array<Control, Osc_Preset_Count> lamps;
-    for (std::size_t preset = 0; preset < lamps.size(); ++preset)
+    for (std::size_t preset = 0; preset < lamps.size(); ++preset) {
         lamps[preset] = Plain(Preset_Controls[preset], Preset_Names[preset], true);
+        lamps[preset].role = Spoken_Role::Radio_Button;
+    }
     return lamps;
 }
 
@@ -141,7 +143,11 @@ std::vector<Control*> Controls_In_Focus_Order() {
 }  // namespace
 
 std::array<Control, Osc_Preset_Count> Osc_Wave = Lamps();
-Control Osc_Invert = Plain("Osc_Invert", "Invert", true);
+Control Osc_Invert = {.name = "Osc_Invert",
+                      .spoken_name = "Invert",
+                      .role = Spoken_Role::Check_Box,
+                      .window = &Oscillator,
+                      .focusable = true};
 Control Osc_Start = Plain("Osc_Start", "Oscillator Start", true);
 Control Osc_Start_Pic = Plain("Osc_Start_Pic", "", false);
 Control Osc_Stop = Plain("Osc_Stop", "Oscillator Stop", true);

@@ -1,17 +1,20 @@
 #include "panels/control_widget.h"
 
-#include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
-#include <string_view>
 
 #include "desk/ansi_qt.h"
 #include "panels/key_codes_qt.h"
 #include "panels/pictures_qt.h"
+#include "panels/spoken.h"
 #include "platform/gate.h"
 
 namespace {
+
+// Where a knob's body has its disc.
+constexpr double Knob_Middle_Row = 12;
+constexpr double Knob_Radius = 11.5;
 
 bool Is_Bare_Modifier(int key) {
     return key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock;
@@ -22,37 +25,11 @@ bool Same_Look(const Control& a, const Control& b) {
     return a.picture == b.picture && a.text == b.text && a.font == b.font;
 }
 
-class Spoken_Control : public QAccessibleWidget {
-  public:
-    explicit Spoken_Control(Control_Widget* widget) : QAccessibleWidget(widget, Role(*widget)) {}
-
-    QString text(QAccessible::Text kind) const override {
-        if (kind == QAccessible::Name) return static_cast<Control_Widget*>(widget())->Spoken();
-        return QAccessibleWidget::text(kind);
-    }
-
-  private:
-    static QAccessible::Role Role(const Control_Widget& widget) {
-        const std::string_view kind = widget.Record().kind;
-        if (kind == "led") return QAccessible::RadioButton;
-        return kind.empty() ? QAccessible::PushButton : QAccessible::Slider;
-    }
-};
-
-QAccessibleInterface* Make_Spoken(const QString&, QObject* object) {
-    auto* widget = dynamic_cast<Control_Widget*>(object);
-    return widget == nullptr ? nullptr : new Spoken_Control(widget);
-}
-
 }  // namespace
 
 Mouse_Button Mouse_Button_Of(Qt::MouseButton button) {
     if (button == Qt::LeftButton) return Mouse_Button::Left;
     return button == Qt::RightButton ? Mouse_Button::Right : Mouse_Button::Other;
-}
-
-void Control_Widgets_Speak() {
-    QAccessible::installFactory(Make_Spoken);
 }
 
 Control_Widget::Control_Widget(Control& record, const Panel& panel, QWidget* parent)
@@ -67,10 +44,42 @@ Control_Widget::Control_Widget(Control& record, const Panel& panel, QWidget* par
     setVisible(record.visible);
 }
 
-QString Control_Widget::Spoken() const {
-    const QString value = From_ANSI(panel_.spoken_value(record_));
-    const QString name = QString::fromUtf8(record_.spoken_name);
-    return value.isEmpty() ? name : name + ", " + value;
+QAccessible::Role Control_Widget::Role() const {
+    // What takes no focus is there to be looked at.
+    if (!record_.focusable) return Is_Field() ? QAccessible::StaticText : QAccessible::Graphic;
+    if (record_.role == Spoken_Role::Check_Box) return QAccessible::CheckBox;
+    if (Is_Lamp(record_)) return QAccessible::RadioButton;
+    return *record_.kind == '\0' ? QAccessible::PushButton : QAccessible::Slider;
+}
+
+QString Control_Widget::Spoken_Name() const {
+    return From_ANSI(::Spoken_Name(panel_, record_));
+}
+
+QString Control_Widget::Spoken_Value() const {
+    return From_ANSI(panel_.spoken_value(record_));
+}
+
+std::optional<bool> Control_Widget::Lit() const {
+    if (!Is_Lamp(record_)) return {};
+    return Is_Lit(panel_, record_);
+}
+
+std::optional<Control_Scale> Control_Widget::Scale() const {
+    if (panel_.scale == nullptr || !record_.focusable) return {};
+    return panel_.scale(record_);
+}
+
+void Control_Widget::Enter(double value) {
+    Enter_Value(panel_, record_, value);
+}
+
+std::vector<Speaking::Action> Control_Widget::Actions() {
+    using Names = QAccessibleActionInterface;
+    if (!record_.focusable) return {};
+    if (!Scale()) return {{Names::pressAction(), [this] { Press_Control(panel_, record_); }}};
+    return {{Names::increaseAction(), [this] { Step_Control(panel_, record_, true); }},
+            {Names::decreaseAction(), [this] { Step_Control(panel_, record_, false); }}};
 }
 
 void Control_Widget::Show_Focus_Policy() {
@@ -84,12 +93,7 @@ void Control_Widget::Show_Changes() {
     if (shown_.visible != record_.visible) setVisible(record_.visible);
     if (shown_.tab_stop != record_.tab_stop) Show_Focus_Policy();
     if (!Same_Look(shown_, record_)) update();
-    const bool moved =
-        shown_.top != record_.top || shown_.left != record_.left || shown_.text != record_.text;
-    if (moved && QAccessible::isActive()) {
-        QAccessibleEvent renamed(this, QAccessible::NameChanged);
-        QAccessible::updateAccessibility(&renamed);
-    }
+    Announce_Changes(*this);
     shown_ = record_;
 }
 
@@ -110,10 +114,21 @@ void Control_Widget::paintEvent(QPaintEvent*) {
         const double aside = (width() - picture.deviceIndependentSize().width()) / 2;
         painter.drawPixmap(QPointF(std::min(aside, 0.0), 0), picture);
     }
-    // The moving controls show the focus by blinking; the others need a mark of their own.
-    if (hasFocus() && *record_.kind == '\0') {
-        painter.setPen(QPen(Ink_Colour(Ink::Heading), 1));
-        painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    Paint_Mark(painter);
+}
+
+// The moving controls show the focus by blinking; the others need a mark of their own. And so does a knob,
+// of which a dot blinks that is easily overlooked.
+void Control_Widget::Paint_Mark(QPainter& painter) const {
+    painter.setPen(QPen(Ink_Colour(Ink::Heading), 1));
+    painter.setBrush(Qt::NoBrush);
+    if (*record_.kind == '\0') {
+        if (hasFocus()) painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    } else if (record_.picture == Picture_Of(Picture_Store::Buttons, Knob_Body)) {
+        const QWidget* focused = window()->focusWidget();
+        if (focused != this && (focused == nullptr || focused->parentWidget() != this)) return;
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.drawEllipse(QPointF(width() / 2.0, Knob_Middle_Row), Knob_Radius, Knob_Radius);
     }
 }
 
@@ -154,12 +169,8 @@ void Control_Widget::Paint_Field(QPainter& painter) const {
 // The rules move the control that has the focus. The toolkit gives it before a press, but tells so only
 // once the window is active.
 void Control_Widget::Take_Focus() {
-    Control* const before = panel_.window->active_control;
-    if (before == &record_ || !record_.focusable) return;
-    Guarded_Event([&] {
-        if (before != nullptr) panel_.events.focus_lost(*before);
-        panel_.events.focus_gained(record_);
-    });
+    if (panel_.window->active_control == &record_ || !record_.focusable) return;
+    Guarded_Event([&] { Give_Focus(panel_, record_); });
 }
 
 void Control_Widget::mousePressEvent(QMouseEvent* event) {
@@ -192,9 +203,7 @@ void Control_Widget::keyPressEvent(QKeyEvent* event) {
     if (push && *record_.kind == '\0' && !Is_Field()) {
         if (event->isAutoRepeat()) return;
         // The buttons work by keyboard too.
-        Guarded_Event([&] { panel_.events.button_pressed(record_, Mouse_Button::Left); });
-        Guarded_Event([&] { panel_.events.button_released(record_, Mouse_Button::Left); });
-        Guarded_Event([&] { panel_.events.clicked(record_); });
+        Press_Control(panel_, record_);
         return;
     }
     if (Is_Field() && Is_Bare_Modifier(event->key())) {
@@ -212,10 +221,16 @@ bool Control_Widget::focusNextPrevChild(bool next) {
 
 void Control_Widget::focusInEvent(QFocusEvent*) {
     Guarded_Event([&] { panel_.events.focus_gained(record_); });
-    update();
+    Update_Mark();
 }
 
 void Control_Widget::focusOutEvent(QFocusEvent*) {
     Guarded_Event([&] { panel_.events.focus_lost(record_); });
+    Update_Mark();
+}
+
+// A dot's mark is on the knob that it lies on.
+void Control_Widget::Update_Mark() {
     update();
+    if (record_.parent != nullptr) parentWidget()->update();
 }

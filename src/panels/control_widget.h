@@ -4,15 +4,21 @@
 #include <QWidget>
 
 #include "panels/panel.h"
+#include "panels/spoken_qt.h"
 
-class Control_Widget : public QWidget {
+class Control_Widget : public QWidget, public Speaking {
   public:
     Control_Widget(Control& record, const Panel& panel, QWidget* parent);
 
     const Control& Record() const { return record_; }
 
-    // What a screen reader says: "VCF Resonance, 64".
-    QString Spoken() const;
+    QAccessible::Role Role() const override;
+    QString Spoken_Name() const override;
+    QString Spoken_Value() const override;
+    std::optional<bool> Lit() const override;
+    std::optional<Control_Scale> Scale() const override;
+    void Enter(double value) override;
+    std::vector<Action> Actions() override;
 
     void Show_Changes();
 
@@ -30,6 +36,8 @@ class Control_Widget : public QWidget {
     bool Is_Field() const;
     void Take_Focus();
     void Paint_Field(QPainter& painter) const;
+    void Paint_Mark(QPainter& painter) const;
+    void Update_Mark();
     void Show_Focus_Policy();
 
     Control& record_;
@@ -38,6 +46,3 @@ class Control_Widget : public QWidget {
 };
 
 Mouse_Button Mouse_Button_Of(Qt::MouseButton button);
-
-// Makes the widgets' spoken names known to screen readers. Called once.
-void Control_Widgets_Speak();

@@ -22,11 +22,15 @@
 #include "desk/windows.h"
 #include "panels/pictures.h"
 
+// What a control without a kind is to a screen reader: a button, unless it says otherwise.
+enum class Spoken_Role { By_Kind, Check_Box, Radio_Button };
+
 struct Control {
     const char* name = "";
     const char* kind = "";
     const char* spoken_name = "";  // for screen readers
-    const char* help = "";         // what it is for, shown to a pointer that rests on it
+    Spoken_Role role = Spoken_Role::By_Kind;
+    const char* help = "";  // what it is for, shown to a pointer that rests on it
     Window* window = nullptr;
     Control* parent = nullptr;  // the control that this one lies on (a dot's knob, a symbol's button)
     Control* symbol = nullptr;  // of a push button: the picture that lies on it

@@ -5,6 +5,7 @@
 #include "desk/timers.h"
 #include "panels/editor_printing.h"
 #include "panels/keyboard.h"
+#include "panels/spoken.h"
 #include "sequencer/sequence.h"
 #include "synth/tone.h"
 #include "synth/tuning.h"
@@ -159,6 +160,12 @@ std::string Spoken_Value(const Control& control) {
     return Editor_Position_Name(*row, std::min(position, Positions(row->type) - 1));
 }
 
+std::optional<Control_Scale> Scale(const Control& control) {
+    const Editor_Row* row = Editor_Row_Of(control);
+    if (row == nullptr) return {};
+    return Scale_Of(row->type, Tone_Byte(Parameter_Of(*row)));
+}
+
 std::vector<Control*> Controls_In_Focus_Order() {
     std::vector<Control*> controls;
     for (Control& control : Editor_Controls) {
@@ -200,6 +207,7 @@ const Panel Editor_Panel = {
     .controls = Controls_In_Focus_Order(),
     .events = Editor_Events,
     .spoken_value = Spoken_Value,
+    .scale = Scale,
 };
 
 Control* Editor_Dot_Of(const Control& body) {

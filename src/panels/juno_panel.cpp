@@ -79,6 +79,16 @@ std::string Spoken_Value(const Control& control) {
     return position.empty() ? std::to_string(value) : position;
 }
 
+std::optional<Control_Scale> Scale(const Control& control) {
+    const Juno_Row* row = Juno_Row_Of(control);
+    if (row == nullptr) return {};
+    const int value = Juno_Byte(Parameter_Of(*row));
+    const int highest = row->type == Juno_Type::Slider ? 127 : row->positions - 1;
+    const int reached = std::min(value, highest);
+    return Control_Scale{1.0 * (row->type == Juno_Type::Inverted ? highest - reached : reached), 0,
+                         1.0 * highest};
+}
+
 std::vector<Control*> Controls_In_Focus_Order() {
     std::vector<Control*> controls;
     for (Control& unused : Juno_Unused_Controls) controls.push_back(&unused);
@@ -121,6 +131,7 @@ const Panel Juno_Panel = {
     .controls = Controls_In_Focus_Order(),
     .events = Juno_Events,
     .spoken_value = Spoken_Value,
+    .scale = Scale,
     .graph = &Juno_Envelope,
 };
 

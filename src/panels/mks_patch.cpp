@@ -4,6 +4,7 @@
 #include "desk/timers.h"
 #include "panels/editor.h"
 #include "panels/push_buttons.h"
+#include "panels/spoken.h"
 #include "panels/steps.h"
 #include "synth/messages.h"
 #include "synth/patch_mks70.h"
@@ -66,6 +67,7 @@ std::array<Control, MKS_Dots.size()> Drawn_Dots() {
 Control Push_Button(const char* name, const char* spoken_name, Control& symbol) {
     return {.name = name,
             .spoken_name = spoken_name,
+            .role = Spoken_Role::Radio_Button,
             .window = &Patch_MKS70,
             .symbol = &symbol,
             .focusable = true};
@@ -110,6 +112,11 @@ std::string Spoken_Value(const Control& control) {
     if (&control == &MKS_Tone_A) text = On_A() ? "on" : "off";
     if (&control == &MKS_Tone_B) text = On_A() ? "off" : "on";
     return text;
+}
+
+std::optional<Control_Scale> Scale(const Control& control) {
+    if (!Is_UDTune(control)) return {};
+    return Scale_Of(Control_Type::Fine_Knob, Patch_MKS70_Byte(UDTune_Cell()));
 }
 
 // -- events ----------------------------------------------------------------------------------------------
@@ -208,6 +215,7 @@ const Panel Patch_MKS70_Panel = {
     .controls = All_Controls(),
     .events = Events,
     .spoken_value = Spoken_Value,
+    .scale = Scale,
 };
 
 void Tone_A_Select() {

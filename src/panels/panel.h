@@ -1,6 +1,7 @@
 // A panel as its toolkit window sees it: the window's record, its controls, and where events go.
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -35,10 +36,18 @@ struct Panel_Graph {
     std::span<const Line_Shape> curve;
 };
 
+// A control's value as a number on its scale, up being more.
+struct Control_Scale {
+    double value, lowest, highest;
+};
+
 struct Panel {
     Window* window;
     std::vector<Control*> controls;  // those that take the focus stand in its order
     Panel_Events events;
-    std::string (*spoken_value)(const Control&);  // what a screen reader says behind the name; ANSI
+    // What a screen reader says behind the name; ANSI. Of a lamp "on" or "off".
+    std::string (*spoken_value)(const Control&);
+    // Null when no control has one.
+    std::optional<Control_Scale> (*scale)(const Control&) = nullptr;
     const Panel_Graph* graph = nullptr;
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "desk/menus.h"
+#include "panels/spoken.h"
 #include "synth/tuning.h"
 #include "synth/views.h"
 
@@ -159,6 +160,12 @@ std::string Spoken_Value(const Control& control) {
     return Bend_Range_Names.at(std::min<std::size_t>(value / 32, 3));
 }
 
+std::optional<Control_Scale> Scale(const Control& control) {
+    const Patch_Row* row = Patch_Row_Of(control);
+    if (row == nullptr) return {};
+    return Scale_Of(row->type, Patch_Byte(row->number));
+}
+
 }  // namespace
 
 std::array<Control, Patch_Table.size()> Patch_Controls = Controls_Of_Table();
@@ -179,6 +186,7 @@ const Panel Patch_Panel = {
     .controls = Controls_In_Focus_Order(),
     .events = Patch_Events,
     .spoken_value = Spoken_Value,
+    .scale = Scale,
 };
 
 const Patch_Row* Patch_Row_Of(const Control& control) {

@@ -6,8 +6,12 @@
 // server has died), and one too many for the port's buffer is dropped. None of it is told. So this watch
 // counts what went in during the last periods and refuses before any of the three can happen.
 //
-// A period counts when our own process callback has run in it. The server's clock would not do: it goes on
-// while the server waits for a client that hangs, and calls nobody.
+// Periods are counted by the server's clock, which libjack reads from shared memory. So this client has no
+// process callback and sleeps until the graph changes; one that is called every period costs as much as
+// RtMidi's own. The clock also goes on where RtMidi's callback comes late, or the server waits for a client
+// that hangs. Then the ring may be fuller than it counts, a send spins until the callback comes, and what
+// was sent fits into the port's buffer all the same: that holds twice as much as is counted. Nothing counts
+// as handed over until the server has been in time for some periods.
 #include <jack/jack.h>
 #include <jack/midiport.h>
 
@@ -32,7 +36,7 @@ constexpr std::size_t Bytes_A_Message = 12;
 
 // A message written now is read in the next period and played by the end of it. One more for a server that
 // does not wait for its clients.
-constexpr std::uint32_t Periods_To_Hand_Over = 3;
+constexpr jack_nframes_t Periods_To_Hand_Over = 3;
 
 // How long a running server may take for a period; the longest usual ones are 8192 frames.
 constexpr auto Longest_Period = std::chrono::milliseconds(250);
@@ -60,7 +64,7 @@ class Jack_Watch final : public Port_Watch {
           capacity_(
               std::min(Ring_Bytes, jack_port_type_get_buffer_size(client, JACK_DEFAULT_MIDI_TYPE) / 2)) {
         jack_on_shutdown(client_, On_Shutdown, this);
-        jack_set_process_callback(client_, On_Process, this);
+        jack_set_xrun_callback(client_, On_Late, this);
         jack_set_port_registration_callback(client_, On_Registration, this);
         jack_set_port_connect_callback(client_, On_Connection, this);
     }
@@ -74,12 +78,15 @@ class Jack_Watch final : public Port_Watch {
 
     bool Service_Alive() const override { return !dead_.load(std::memory_order_acquire); }
 
+    // A dead server's clock is not read: libjack may have cleared it away.
     bool Service_Runs() override {
-        const std::uint32_t before = Periods();
+        if (!Service_Alive()) return false;
+        const jack_nframes_t before = Frames();
         const auto deadline = Clock::now() + Longest_Period;
-        while (Periods() == before) {
-            if (!Service_Alive() || Clock::now() >= deadline) return false;
+        while (Frames() == before) {
+            if (Clock::now() >= deadline) return false;
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
+            if (!Service_Alive()) return false;
         }
         return true;
     }
@@ -101,7 +108,7 @@ class Jack_Watch final : public Port_Watch {
         changed_ = false;
         gone_ = false;
         recent_bytes_ = older_bytes_ = 0;
-        section_began_ = last_sent_ = Periods();
+        section_began_ = last_sent_ = Frames();
         return true;
     }
 
@@ -127,17 +134,20 @@ class Jack_Watch final : public Port_Watch {
 
     void Note_Sent(std::size_t size) override {
         recent_bytes_ += size + Bytes_A_Message;
-        last_sent_ = Periods();
+        last_sent_ = Frames();
     }
 
-    bool Handed_Over() override { return Periods() - last_sent_ >= Periods_To_Hand_Over; }
+    bool Handed_Over() override {
+        if (late_.exchange(false, std::memory_order_acq_rel)) last_sent_ = Frames();
+        return Frames() - last_sent_ >= Frames_To_Hand_Over();
+    }
 
   private:
     static void On_Shutdown(void* self) {
         static_cast<Jack_Watch*>(self)->dead_.store(true, std::memory_order_release);
     }
-    static int On_Process(jack_nframes_t /*frames*/, void* self) {
-        static_cast<Jack_Watch*>(self)->periods_.fetch_add(1, std::memory_order_release);
+    static int On_Late(void* self) {
+        static_cast<Jack_Watch*>(self)->late_.store(true, std::memory_order_release);
         return 0;
     }
     static void On_Registration(jack_port_id_t /*port*/, int /*on*/, void* self) {
@@ -162,25 +172,29 @@ class Jack_Watch final : public Port_Watch {
         return false;
     }
 
-    // Periods played so far; the number starts again at 0 after some months.
-    std::uint32_t Periods() const { return periods_.load(std::memory_order_acquire); }
+    // When the present period began; starts again at 0 after a day. Answers on any thread and asks nobody.
+    jack_nframes_t Frames() const { return jack_last_frame_time(client_); }
+    jack_nframes_t Frames_To_Hand_Over() const {
+        return Periods_To_Hand_Over * jack_get_buffer_size(client_);
+    }
 
     // Time is cut into sections, each long enough to hand everything over. What was sent before the last
     // section is out of the ring. When the server stands still no section ends, and the room stays used up.
     void Forget_Old_Bytes() {
-        const std::uint32_t now = Periods();
-        const std::uint32_t passed = now - section_began_;
-        if (passed < Periods_To_Hand_Over) return;
-        older_bytes_ = passed < 2 * Periods_To_Hand_Over ? recent_bytes_ : 0;
+        const jack_nframes_t now = Frames();
+        const jack_nframes_t passed = now - section_began_;
+        if (passed < Frames_To_Hand_Over()) return;
+        older_bytes_ = passed < 2 * Frames_To_Hand_Over() ? recent_bytes_ : 0;
         recent_bytes_ = 0;
         section_began_ = now;
     }
 
     jack_client_t* client_;
     std::size_t capacity_;
-    std::atomic<bool> dead_ = false;          // written by libjack's threads
-    std::atomic<bool> changed_ = false;       // set by libjack's threads, cleared here
-    std::atomic<std::uint32_t> periods_ = 0;  // written by libjack's thread
+    std::atomic<bool> dead_ = false;  // written by libjack's threads
+    // Set by libjack's threads, cleared here.
+    std::atomic<bool> changed_ = false;  // the graph
+    std::atomic<bool> late_ = false;     // a client was not called or not ready in its period
 
     std::string target_;             // the port at the other end
     jack_port_t* source_ = nullptr;  // RtMidi's port
@@ -191,8 +205,8 @@ class Jack_Watch final : public Port_Watch {
 
     std::size_t recent_bytes_ = 0;  // sent in this section
     std::size_t older_bytes_ = 0;   // sent in the section before
-    std::uint32_t section_began_ = 0;
-    std::uint32_t last_sent_ = 0;  // in periods, like section_began_
+    jack_nframes_t section_began_ = 0;
+    jack_nframes_t last_sent_ = 0;
 };
 
 }  // namespace

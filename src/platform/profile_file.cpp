@@ -17,7 +17,9 @@ struct Line {
 };
 
 Line Line_At(std::string_view text, std::size_t begin) {
-    const std::size_t end = std::min(text.find_first_of("\r\n", begin), text.size());
+    const auto* const mark = std::find_if(text.begin() + begin, text.end(),
+                                          [](char letter) { return letter == '\r' || letter == '\n'; });
+    const auto end = static_cast<std::size_t>(mark - text.begin());
     std::size_t next = end;
     if (next < text.size() && text[next] == '\r') ++next;
     if (next < text.size() && text[next] == '\n') ++next;

@@ -302,6 +302,12 @@ std::string Seq_Note_Name(int note) {
     return Note_Names[note % Notes_In_Octave] + std::to_string(note / Notes_In_Octave - Lowest_Octave);
 }
 
+std::string Seq_Cell_Text(int step, int row) {
+    static constexpr const char* Words[] = {"empty", "lit", "loud", "soft"};
+    return "step " + std::to_string(step + 1) + ", " + Seq_Note_Name(Seq_Row_Note(row)) + ", " +
+           Words[Seq_Matrix[Seq_Cell(step, row)]];
+}
+
 void Seq_Matrix_MouseDown(Mouse_Button button, double x, double y) {
     const int column = static_cast<int>(Round_Half_Even(x)) / Seq_Pitch;
     const int row = static_cast<int>(Round_Half_Even(y)) / Seq_Pitch;

@@ -58,6 +58,9 @@ extern const Panel Seq_Panel;
 // The name of a note as the lists count octaves, 24 being "C0": 61 is "C#3".
 std::string Seq_Note_Name(int note);
 
+// A cell in words: "step 3, C#3, loud".
+std::string Seq_Cell_Text(int step, int row);
+
 bool Seq_Key_Is_Black(int key);
 
 // Events. The position is in pixels from the matrix's corner; only the press counts.

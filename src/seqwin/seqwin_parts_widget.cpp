@@ -1,7 +1,9 @@
 #include "seqwin/seqwin_parts_widget.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "panels/control_widget.h"
 #include "panels/pictures_qt.h"
@@ -20,11 +22,12 @@ void Draw_Cell(QPainter& painter, int left, int top, Seq_Picture picture, qreal 
 
 Seq_Matrix_Widget::Seq_Matrix_Widget(QWidget* parent) : QWidget(parent) {
     setObjectName("Seq_Matrix");
-    setAccessibleName("Matrix of steps and notes");
+    setFocusPolicy(Qt::TabFocus);
     setGeometry(Seq_Matrix_Left, Seq_Matrix_Top, Seq_Matrix_Width, Seq_Matrix_Height);
 }
 
 void Seq_Matrix_Widget::Show_Changes() {
+    Announce_Changes(*this);
     if (shown_ == Seq_Matrix && lit_ == Seq_Clock) return;
     shown_ = Seq_Matrix;
     lit_ = Seq_Clock;
@@ -44,12 +47,63 @@ void Seq_Matrix_Widget::paintEvent(QPaintEvent*) {
         painter.setPen(QPen(QColor(0xff, 0xc0, 0x60, 0xc0), 1));
         painter.drawRect(column.adjusted(0.5, 0.5, -0.5, -0.5));
     }
+    if (!hasFocus()) return;
+    painter.setPen(QPen(Ink_Colour(Ink::Print), 2));
+    painter.drawRect(QRectF(step_ * Seq_Pitch, row_ * Seq_Pitch, Seq_Pitch - 1, Seq_Pitch - 1));
 }
 
 void Seq_Matrix_Widget::mousePressEvent(QMouseEvent* event) {
     const Mouse_Button button = Mouse_Button_Of(event->button());
     const QPointF at = event->position();
     Guarded_Event([&] { Seq_Matrix_MouseDown(button, at.x(), at.y()); });
+}
+
+void Seq_Matrix_Widget::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+        case Qt::Key_Left:
+            return Move(-1, 0);
+        case Qt::Key_Right:
+            return Move(1, 0);
+        case Qt::Key_Up:
+            return Move(0, -1);
+        case Qt::Key_Down:
+            return Move(0, 1);
+        case Qt::Key_Space:
+            if (event->isAutoRepeat()) return;
+            return Press_Cell((event->modifiers() & Qt::ShiftModifier) != 0 ? Mouse_Button::Right
+                                                                            : Mouse_Button::Left);
+        default:
+            QWidget::keyPressEvent(event);
+    }
+}
+
+void Seq_Matrix_Widget::Move(int steps, int rows) {
+    step_ = std::clamp(step_ + steps, 0, Seq_Steps - 1);
+    row_ = std::clamp(row_ + rows, 0, Seq_Rows - 1);
+    Announce_Changes(*this);
+    update();
+}
+
+// In the middle of the cell.
+void Seq_Matrix_Widget::Press_Cell(Mouse_Button button) const {
+    constexpr int Middle = Seq_Pitch / 2 - 1;
+    const int column = step_ * Seq_Pitch + Middle;
+    const int row = row_ * Seq_Pitch + Middle;
+    Guarded_Event([&] { Seq_Matrix_MouseDown(button, column, row); });
+}
+
+QString Seq_Matrix_Widget::Spoken_Name() const {
+    return "Matrix, " + QString::fromStdString(Seq_Cell_Text(step_, row_));
+}
+
+std::vector<Speaking::Action> Seq_Matrix_Widget::Actions() {
+    using Names = QAccessibleActionInterface;
+    return {{Names::pressAction(), [this] { Press_Cell(Mouse_Button::Left); }},
+            {Names::toggleAction(), [this] { Press_Cell(Mouse_Button::Right); }},
+            {Names::previousPageAction(), [this] { Move(-1, 0); }},
+            {Names::nextPageAction(), [this] { Move(1, 0); }},
+            {Names::increaseAction(), [this] { Move(0, -1); }},
+            {Names::decreaseAction(), [this] { Move(0, 1); }}};
 }
 
 // -- the lights ------------------------------------------------------------------------------------------

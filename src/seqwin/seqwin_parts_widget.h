@@ -7,20 +7,32 @@
 #include <array>
 
 #include "panels/printing.h"
+#include "panels/spoken_qt.h"
 #include "sequencer/engine.h"
 #include "seqwin/seqwin.h"
 
-// The cells, with the column that plays marked.
-class Seq_Matrix_Widget : public QWidget {
+// The cells, with the column that plays marked. With the focus one cell is: the cursor keys move to
+// another, the blank presses it like the left button, with Shift like the right one.
+class Seq_Matrix_Widget : public QWidget, public Speaking {
   public:
     explicit Seq_Matrix_Widget(QWidget* parent);
     void Show_Changes();
 
+    QAccessible::Role Role() const override { return QAccessible::Table; }
+    QString Spoken_Name() const override;
+    std::vector<Action> Actions() override;
+
   protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    void Move(int steps, int rows);
+    void Press_Cell(Mouse_Button button) const;
+
+    int step_ = 0;  // the cell with the mark
+    int row_ = 0;
     std::array<Seq_Picture, Seq_Cells> shown_ = {};
     std::array<bool, Seq_Steps> lit_ = {};
 };

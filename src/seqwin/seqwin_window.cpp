@@ -65,6 +65,15 @@ Sequencer_Window::Sequencer_Window(QMainWindow* parent)
     tempo_label_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     tempo_label_->setGeometry(370, 88, 46, 16);
 
+    // As it lies on the window: left to right, and down in each part.
+    std::vector<QWidget*> order = {findChild<QWidget*>(Seq_New.name), matrix_};
+    order.insert(order.end(), directions_.begin(), directions_.end());
+    for (QWidget* widget :
+         {static_cast<QWidget*>(range_), static_cast<QWidget*>(trans_), static_cast<QWidget*>(tempo_),
+          findChild<QWidget*>(Seq_Start.name), findChild<QWidget*>(Seq_Stop.name)})
+        order.push_back(widget);
+    for (std::size_t next = 1; next < order.size(); ++next) setTabOrder(order[next - 1], order[next]);
+
     for (QWidget* widget : findChildren<QWidget*>()) widget->installEventFilter(this);
     installEventFilter(this);
 }

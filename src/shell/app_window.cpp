@@ -3,6 +3,7 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
 #include <QScopedValueRollback>
@@ -58,6 +59,14 @@ bool Has_Function(std::size_t index) {
         if (Menu_Tree[below].visible && Menu_Tree[below].chosen.Filled()) return true;
     }
     return false;
+}
+
+// A menu that has opened is a window of its own, and says what it is called.
+void Show_Caption(QAction& action, const QString& caption) {
+    if (action.text() == caption) return;
+    action.setText(caption);
+    QString name = caption;
+    if (action.menu() != nullptr) action.menu()->setAccessibleName(name.remove('&'));
 }
 
 bool Is_Separator(const Menu_Entry& entry) {
@@ -161,7 +170,7 @@ void App_Window::Show_Menus() {
         const Menu_Entry& entry = Menu_Tree[index];
         QAction& action = *entries_[index];
         // The toolkit draws a line for a separator that has no text, and the text of one that has.
-        if (!Is_Separator(entry)) action.setText(Toolkit_Caption(entry.caption));
+        if (!Is_Separator(entry)) Show_Caption(action, Toolkit_Caption(entry.caption));
         action.setVisible(entry.visible && (Has_Function(index) || Is_Separator(entry)));
         action.setEnabled(entry.enabled);
         if (entry.checked) action.setCheckable(true);

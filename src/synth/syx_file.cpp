@@ -62,13 +62,12 @@ class Scanner {
     bool Is_Open() const { return file_.Is_Open(); }
 
     void Walk() {
-        while (const auto byte = file_.At(position_)) {
-            if (*byte == Exclusive) {
-                if (!Take_Message()) return;
-                // Behind every message, known or not. So the usual file sends twice: with the old patch
-                // parameters, then with its own.
-                if (MIDI_Autosend == 1) Tone_Send();
-            }
+        while (const auto found = file_.Find(Exclusive, position_)) {
+            position_ = *found;
+            if (!Take_Message()) return;
+            // Behind every message, known or not. So the usual file sends twice: with the old patch
+            // parameters, then with its own.
+            if (MIDI_Autosend == 1) Tone_Send();
             ++position_;
         }
     }

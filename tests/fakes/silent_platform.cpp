@@ -1,14 +1,10 @@
 // The smallest bodies of the platform, for figures and fuzz targets: nothing is shown and no time passes.
-// The ports are the user's own.
+// Ports, boxes and events are bodies of their own.
 #include "platform/display.h"
-#include "platform/event_loop.h"
-#include "platform/message_box.h"
+#include "platform/slow_work.h"
 #include "platform/timer.h"
 #include "platform/wake_up.h"
 
-Answer Message_Box(const std::string&, Buttons_Set buttons, Icon, const std::string&) {
-    return buttons == Buttons_Set::Ok ? Answer::Ok : Answer::Yes;
-}
 void Timer_Start(Timer& timer) {
     timer.enabled = true;
 }
@@ -17,12 +13,6 @@ void Timer_Stop(Timer& timer) {
 }
 void Timer_Set_Interval(Timer& timer, int milliseconds) {
     timer.interval = milliseconds;
-}
-bool Event_Loop_Turn() {
-    return true;
-}
-bool Event_Loop_Wait(int) {
-    return true;
 }
 double Display_Logical_Density() {
     return 96;
@@ -43,6 +33,10 @@ bool System_Sound_Play(const std::string&) {
     return true;
 }
 void Beep() {}
+bool Slow_Work(std::function<void()> work, int) {
+    work();
+    return true;
+}
 
 void Wake_Up_Begin(Hook<void()>) {}
 void Wake_Up_End() {}

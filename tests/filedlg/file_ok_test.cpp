@@ -254,6 +254,17 @@ TEST_F(Save_As, writes_a_new_file_in_small_letters_and_closes) {
     EXPECT_TRUE(Boxes.empty());
 }
 
+// A paste may hold one. To the disk the whole name would be "two", with no extension, and that file is
+// somebody else's.
+TEST_F(Save_As, takes_a_name_to_its_first_zero_character) {
+    Write(Disk("two"), "somebody else's");
+    FD_Show("SaveAs_SYX");
+    Type_And_Ok(std::string("two\0.syx", 8));
+    EXPECT_EQ(std::filesystem::file_size(Disk("two")), 15U);
+    EXPECT_TRUE(std::filesystem::exists(Disk("two.syx")));
+    EXPECT_FALSE(Is_Open());
+}
+
 TEST_F(Save_As, asks_before_it_writes_over_a_file) {
     FD_Show("SaveAs_SYX");
     Answer_With(Question(Small("bass.syx")), Answer::Yes);

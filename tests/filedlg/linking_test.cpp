@@ -1,5 +1,6 @@
 #include "filedlg/linking.h"
 
+#include "fakes/fake_slow_work.h"
 #include "fakes/plain_user.h"
 #include "filedlg/file_stage.h"
 
@@ -135,4 +136,31 @@ TEST_F(Linked_Lists, show_the_drive_that_the_folder_lies_on) {
     EXPECT_EQ(FD_List_Drives.Selected_Text(), Stick());
     EXPECT_EQ(FD_Go_To(Disk("")), 0);
     EXPECT_EQ(FD_List_Drives.Selected_Text(), "/");
+}
+
+TEST_F(Linked_Lists, ask_about_a_share_that_does_not_answer_and_go_back_at_cancel) {
+    Work_Hangs = true;
+    Answer_With(Drive_Question, Answer::Cancel, [] { Work_Hangs = false; });
+    Choose_Drive(Stick());
+    Expect_Question();
+    EXPECT_EQ(FD_Drive, "/");
+    EXPECT_EQ(FD_List_Dirs.path, Disk(""));
+    EXPECT_NE(FD_List_Files.entries, Lines{});
+}
+
+TEST_F(Linked_Lists, try_a_share_again_at_retry) {
+    Work_Hangs = true;
+    Answer_With(Drive_Question, Answer::Retry, [] { Work_Hangs = false; });
+    Choose_Drive(Stick());
+    EXPECT_EQ(FD_List_Dirs.path, Stick());
+    EXPECT_EQ(FD_List_Files.entries, Lines{"s.syx"});
+}
+
+TEST_F(Linked_Lists, open_on_the_lists_as_they_were_when_the_share_of_the_last_time_is_silent) {
+    FD_Button_Cancel_Click();
+    Work_Hangs = true;
+    FD_Show("Open_SYX");
+    EXPECT_TRUE(File_Dlg.visible);
+    EXPECT_EQ(FD_List_Dirs.path, "/");
+    EXPECT_EQ(FD_List_Files.entries, Lines{});
 }

@@ -16,8 +16,8 @@
 #include "monkey/dice.h"
 #include "monkey/disk.h"
 #include "monkey/port.h"
-#include "panels/control_widget.h"
 #include "panels/pictures_qt.h"
+#include "panels/spoken_qt.h"
 #include "platform/gate.h"
 #include "platform/random.h"
 #include "shell/app_window.h"
@@ -148,7 +148,7 @@ void Run(int& argument_count, char** arguments) {
     application.installEventFilter(&boxes);
     Style_Install();
     Pictures_Open();
-    Control_Widgets_Speak();
+    Widgets_Speak();
     Program_Wire();
     Checks_Begin();
     Random_Number = [] { return Chance.Below(1 << 20) / static_cast<double>(1 << 20); };

@@ -229,3 +229,21 @@ TEST(File, is_replaced_whatever_bears_the_name_beside_it) {
     EXPECT_EQ(Read(Path("x")), "4");
     EXPECT_EQ(Read(Path("precious")), "precious");
 }
+
+TEST(File_Reader, finds_the_first_byte_of_a_value_from_a_place_on_in_a_file_of_any_size) {
+    // Longer than what is read at a time, with one at the very end.
+    std::string bytes(200'000, '\x2A');
+    bytes[0] = bytes[7] = bytes[65'535] = bytes[65'536] = bytes[199'999] = '\xF0';
+    Write(Path("x"), bytes);
+    File_Reader file(Path("x"));
+    EXPECT_EQ(file.Find(0xF0, 1), 1U);
+    EXPECT_EQ(file.Find(0xF0, 2), 8U);
+    EXPECT_EQ(file.Find(0xF0, 9), 65'536U);
+    EXPECT_EQ(file.Find(0xF0, 65'537), 65'537U);
+    EXPECT_EQ(file.Find(0xF0, 65'538), 200'000U);
+    EXPECT_EQ(file.Find(0xF0, 200'001), std::nullopt);
+    EXPECT_EQ(file.Find(0xF0, 300'000), std::nullopt);
+    EXPECT_EQ(file.Find(0x11, 1), std::nullopt);
+    EXPECT_EQ(file.Find(0xF0, 3), 8U) << "also back again";
+    EXPECT_EQ(File_Reader(Path("none")).Find(0xF0, 1), std::nullopt);
+}

@@ -124,8 +124,7 @@ TEST_F(File_Window_On_Screen, gives_every_part_that_takes_the_keyboard_a_spoken_
         ++count;
     }
     EXPECT_GE(count, 19);
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(Widget("FD_SYX_CB_Autoplay"))->text(QAccessible::Name),
-              "Autoplay, off");
+    EXPECT_EQ(Heard(Widget("FD_SYX_CB_Autoplay")), "Autoplay, off");
 }
 
 TEST_F(File_Window_On_Screen, shows_one_panel_by_its_mode) {

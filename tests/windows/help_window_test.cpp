@@ -242,9 +242,7 @@ TEST_F(Help_On_Screen, is_not_closed_or_turned_by_the_return_key) {
 
 TEST_F(Help_On_Screen, speaks_to_screen_readers) {
     Open(Menu_Help_Howto);
-    const auto name = [this](const char* control) {
-        return QAccessible::queryAccessibleInterface(Widget(control))->text(QAccessible::Name);
-    };
+    const auto name = [this](const char* control) { return Heard(Widget(control)); };
     EXPECT_EQ(name("Pos_Sw"), "Position Switch, 4");
     EXPECT_EQ(name("Tune"), "Tune, 0");
     EXPECT_EQ(name("Slider"), "Slider, 0");

@@ -169,8 +169,7 @@ TEST_F(Juno_On_Screen, speaks_its_controls) {
                   "")
             << control->name;
     }
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(On_Juno("VCF_Res"))->text(QAccessible::Name),
-              "VCF Resonance, 64");
+    EXPECT_EQ(Heard(On_Juno("VCF_Res")), "VCF Resonance, 64");
     EXPECT_EQ(On_Juno("PictureEnv")->accessibleName(), "Envelope");
 }
 

@@ -204,9 +204,7 @@ TEST_F(Panel_On_Screen, speaks_to_screen_readers) {
     Start();
     Widget("VCF_Res")->setFocus();
     QTest::keyClick(Widget("VCF_Res"), Qt::Key_Home);
-    const auto name = [this](const char* control) {
-        return QAccessible::queryAccessibleInterface(Widget(control))->text(QAccessible::Name);
-    };
+    const auto name = [this](const char* control) { return Heard(Widget(control)); };
     EXPECT_EQ(name("VCF_Res"), "VCF Resonance, 99");
     EXPECT_EQ(name("DCO1_Range"), "DCO-1 Range, 16'");
     EXPECT_EQ(name("Keys_Pic"), "Keyboard");

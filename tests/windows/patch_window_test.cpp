@@ -281,9 +281,7 @@ TEST_F(Patch_On_Screen, speaks_to_screen_readers) {
     Open();
     In("Portamento_Time")->setFocus();
     Press_Key(Qt::Key_Home);
-    const auto name = [this](const char* control) {
-        return QAccessible::queryAccessibleInterface(In(control))->text(QAccessible::Name);
-    };
+    const auto name = [this](const char* control) { return Heard(In(control)); };
     EXPECT_EQ(name("Portamento_Time"), "Portamento Time, 99");
     EXPECT_EQ(name("Portamento_Switch"), "Portamento, OFF");
     EXPECT_EQ(name("Pitch_Bend_Range"), "Bend Range, 2");

@@ -1,10 +1,11 @@
 #include "windows/screen.h"
 
+#include <QAccessible>
 #include <filesystem>
 #include <fstream>
 
-#include "panels/control_widget.h"
 #include "panels/pictures_qt.h"
+#include "panels/spoken_qt.h"
 #include "platform/gate.h"
 #include "shell/frame.h"
 #include "shell/style_qt.h"
@@ -26,7 +27,7 @@ Screen::Screen(const char* scale) {
     QApplication::setQuitOnLastWindowClosed(false);
     Style_Install();
     Pictures_Open();
-    Control_Widgets_Speak();
+    Widgets_Speak();
     std::filesystem::copy_file(BUILD_DIR "/JX8P.FNT", Test_Folder() + "/JX8P.FNT");
     Ports.out_names = {"Synth Out", "Other Out"};
     Ports.in_names = {"Keys In"};
@@ -63,4 +64,15 @@ QWidget* Screen::Widget(const char* name) const {
 QString Screen::Focused() {
     const QWidget* widget = QApplication::focusWidget();
     return widget == nullptr ? QString("(none)") : widget->objectName();
+}
+
+QString Screen::Heard(QWidget* widget) {
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(widget);
+    QString heard = spoken->text(QAccessible::Name);
+    if (QAccessibleValueInterface* value = spoken->valueInterface()) {
+        const QString number = QString::number(value->currentValue().toDouble());
+        if (spoken->text(QAccessible::Value) == number) heard += ", " + number;
+    }
+    if (spoken->state().checkable) heard += spoken->state().checked ? ", on" : ", off";
+    return heard;
 }

@@ -26,6 +26,8 @@ class Screen : public ::testing::Test {
     QWidget* Widget(const char* name) const;
     // The name of the widget that has the focus.
     static QString Focused();
+    // What a screen reader says of a widget, of its name, its number and its state: "VCF Resonance, 64".
+    static QString Heard(QWidget* widget);
     // What the widget shows.
     static QImage Picture_On(QWidget* widget) { return widget->grab().toImage(); }
 

@@ -1,0 +1,42 @@
+// Any bytes as the display's font, through the toolkit: added, written with, and taken away again. What was
+// added can be removed, what was refused cannot, and neither stays behind.
+#include <QApplication>
+#include <QFontDatabase>
+#include <QImage>
+#include <QPainter>
+
+#include "feed.h"
+#include "fence.h"
+#include "platform/display.h"
+
+namespace {
+
+void Write_With_It() {
+    QImage image(96, 24, QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&image);
+    QFont font(QStringLiteral("JX8P"));
+    font.setPixelSize(16);
+    painter.setFont(font);
+    painter.drawText(2, 20, QString::fromUtf16(u"NEW 8P\uE000"));
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static char name[] = "font_fuzz";
+    static char* arguments[] = {name, nullptr};
+    static int number = 1;
+    static const QApplication* const application = [] {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        return new QApplication(number, arguments);
+    }();
+    (void)application;
+    const std::string path = Fenced_Folder() + "/JX8P.FNT";
+    Fenced_Write(path, {reinterpret_cast<const char*>(data), size});
+    const bool added = Font_File_Add(path);
+    // One in sixteen is enough: it costs ten times as much as the rest.
+    if (added && data[size / 2] % 16 == 0) Write_With_It();
+    Check((Font_File_Remove(path) == 0) == added);
+    Check(Font_File_Remove(path) != 0);
+    return 0;
+}
