@@ -11,7 +11,15 @@
 #include <cstring>
 #include <initializer_list>
 
+// A sanitizer tells of a crash itself; the two compilers say in different ways that there is one.
 #if defined(__SANITIZE_ADDRESS__)
+#define MONKEY_WATCHED 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define MONKEY_WATCHED 1
+#endif
+#endif
+#ifdef MONKEY_WATCHED
 #include <sanitizer/common_interface_defs.h>
 #endif
 
@@ -94,7 +102,7 @@ void Diary_Begin(std::uint64_t seed, int life, std::int64_t first) {
     Life = life;
     First = first;
     Count = first;
-#if defined(__SANITIZE_ADDRESS__)
+#ifdef MONKEY_WATCHED
     __sanitizer_set_death_callback([] { Tell("the sanitizer found something"); });
 #else
     for (const int number : {SIGSEGV, SIGBUS, SIGFPE, SIGILL}) std::signal(number, On_Crash);

@@ -4,6 +4,8 @@
 //
 // The run is a chain of lives: each is a process of its own, which ends as the program ends and leaves its
 // settings to the next. A finding ends the run with its seed, the number of the event and the last events.
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/personality.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -30,12 +32,30 @@ constexpr std::int64_t Events_A_Life = 10000;
 constexpr std::int64_t Events_For_All_Windows = 20000;
 constexpr uid_t Nobody = 65534;
 
+void Clear(const std::string& path) {
+    std::error_code error;
+    for (int round = 0; round < 3; ++round) {
+        for (fs::recursive_directory_iterator entry(path, error), end; !error && entry != end;
+             entry.increment(error)) {
+            std::error_code refused;
+            if (entry->is_directory(refused) && !entry->is_symlink(refused))
+                fs::permissions(entry->path(), fs::perms(0700), refused);
+        }
+        fs::remove_all(path, error);
+    }
+}
+
+// Named after the seed: the name shows in the windows, and a wider one moves what the pointer meets. A
+// second run of the same seed waits for the first.
 struct Own_Folder {
-    std::string path = (fs::temp_directory_path() / "tonebench-monkey-XXXXXX").string();
-    Own_Folder() {
-        if (mkdtemp(path.data()) == nullptr) std::exit(2);
-        fs::create_directory(path + "/disk");
-        fs::create_directory(path + "/disk/program");
+    std::string path;
+
+    explicit Own_Folder(std::uint64_t seed)
+        : path((fs::temp_directory_path() / ("tonebench-monkey-" + std::to_string(seed))).string()),
+          lock_(creat((path + ".lock").c_str(), 0600)) {
+        if (lock_ < 0 || flock(lock_, LOCK_EX) != 0) std::exit(2);
+        Clear(path);
+        fs::create_directories(path + "/disk/program");
         // The build lays it one folder above this program.
         const fs::path own = fs::read_symlink("/proc/self/exe");
         fs::copy_file(own.parent_path().parent_path() / "JX8P.FNT", path + "/disk/program/JX8P.FNT");
@@ -45,19 +65,14 @@ struct Own_Folder {
             (void)!::lchown(entry.path().c_str(), Nobody, Nobody);
     }
     ~Own_Folder() {
-        std::error_code error;
-        for (int round = 0; round < 3; ++round) {
-            for (fs::recursive_directory_iterator entry(path, error), end; !error && entry != end;
-                 entry.increment(error)) {
-                std::error_code refused;
-                if (entry->is_directory(refused) && !entry->is_symlink(refused))
-                    fs::permissions(entry->path(), fs::perms(0700), refused);
-            }
-            fs::remove_all(path, error);
-        }
+        Clear(path);
+        close(lock_);
     }
     Own_Folder(const Own_Folder&) = delete;
     Own_Folder& operator=(const Own_Folder&) = delete;
+
+  private:
+    int lock_;
 };
 
 // The program's exit code, or 128 and the signal.
@@ -72,6 +87,7 @@ int Run_Apart(const std::vector<std::string>& command) {
         setenv("QT_HASH_SEED", "0", 1);
         setenv("QT_SCALE_FACTOR", "1", 1);
         setenv("LANG", "C.UTF-8", 1);
+        setenv("XDG_RUNTIME_DIR", "/nowhere", 0);
         std::vector<char*> arguments;
         for (const std::string& word : command) arguments.push_back(const_cast<char*>(word.c_str()));
         arguments.push_back(nullptr);
@@ -116,7 +132,7 @@ bool All_Windows_Opened(const Counts& counts) {
 
 int Run(std::uint64_t seed, std::int64_t events, bool boxes) {
     const auto begin = std::chrono::steady_clock::now();
-    const Own_Folder folder;
+    const Own_Folder folder(seed);
     Counts counts;
     std::int64_t done = 0;
     int lives = 0;
