@@ -95,8 +95,9 @@ def main():
     say(f"sequencer: {len(ticks)} ticks of 13 notes in order, each one of the 8 steps" if not bad
         else f"sequencer: {bad} of {len(ticks)} ticks are not whole", not bad)
 
-    # The same rows again and again, so the values go round too. Moves that the program finds in one event are one
-    # value: what follows three values mostly is the next one, and what follows else has passed over some.
+    # The same rows again and again, so the values go round too: what follows three values mostly is the next one.
+    # Moves that the toolkit finds together are one value, and behind a turn that was passed over so the thumb is held
+    # a little beside the usual place, for a value or two.
     moves = len((folder / "moves.txt").read_text().split())
     follower = collections.defaultdict(collections.Counter)
     for place in range(3, len(drags)):
@@ -104,18 +105,11 @@ def main():
     cycle = list(max(follower, key=lambda before: sum(follower[before].values())))
     while len(cycle) < MOVES_A_CYCLE:
         cycle.append(follower[tuple(cycle[-3:])].most_common(1)[0][0])
-    place, passed_over, strange_values = cycle.index(drags[1]), 0, 0
-    for value in drags[1:]:  # behind the one that the press sends
-        tries = next((tries for tries in range(MOVES_A_CYCLE) if cycle[(place + tries) % MOVES_A_CYCLE] == value), None)
-        if tries is None:
-            strange_values += 1
-        else:
-            place, passed_over = place + tries + 1, passed_over + tries
-    missing = moves - (len(drags) - 1) - passed_over
-    # Where a turn was passed over, the thumb is held a little beside the usual place for a value or two.
-    say(f"slider: {len(drags)} values in the order of the rows for {moves} moves; {passed_over} moves came together "
-        f"with the next, {strange_values} values are others behind such a turn",
-        strange_values <= passed_over and abs(missing) <= MOVES_A_CYCLE)
+    moved = drags[1:]  # behind the one that the press sends
+    together = moves - len(moved)
+    beside = sum(value not in cycle for value in moved)
+    say(f"slider: {len(moved)} values for {moves} moves; {together} moves came together with the next, {beside} values "
+        "are others behind such a turn", 0 <= together and beside <= together)
 
     clock_told("oscillator's clock", [time for time, message in sent if message.startswith(OSCILLATOR)], 1)
     clock_told("sequencer's clock", [time for time, message in sent if message.startswith(NOTES[0])], 62)
