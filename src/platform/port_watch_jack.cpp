@@ -38,8 +38,8 @@ constexpr std::size_t Bytes_A_Message = 12;
 // does not wait for its clients.
 constexpr jack_nframes_t Periods_To_Hand_Over = 3;
 
-// How long a running server may take for a period; the longest usual ones are 8192 frames.
-constexpr auto Longest_Period = std::chrono::milliseconds(250);
+// How long a running server may take for a period: it waits half a second for a client that hangs.
+constexpr auto Longest_Period = std::chrono::milliseconds(600);
 
 // For how long after a change the graph is looked at again at each send: the news of a change may come
 // before the change itself can be seen.

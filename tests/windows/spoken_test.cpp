@@ -437,8 +437,12 @@ TEST_F(Spoken_On_Screen, shows_where_the_keyboard_is) {
     Start();
     Each_Window([](const std::string& window, QWidget* root, const Panel*) {
         SCOPED_TRACE(window);
-        root->window()->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(root->window()));
+        // Late news of another window may take the keyboard away again.
+        const auto focus = [root](QWidget* widget, Qt::FocusReason reason) {
+            root->window()->activateWindow();
+            EXPECT_TRUE(QTest::qWaitForWindowActive(root->window()));
+            widget->setFocus(reason);
+        };
         std::vector<Heard_Control> heard;
         Walk(Speech(root), heard);
         for (const Heard_Control& control : heard) {
@@ -461,9 +465,9 @@ TEST_F(Spoken_On_Screen, shows_where_the_keyboard_is) {
             }
             ASSERT_NE(other, nullptr);
             Timer_Stop(Timer1);  // blinks below, and not by the clock
-            other->setFocus();
+            focus(other, Qt::OtherFocusReason);
             const QImage without = look();
-            control.widget->setFocus(Qt::MouseFocusReason);
+            focus(control.widget, Qt::MouseFocusReason);
             // Of a group of lamps the lit one blinks, whichever got the keyboard.
             const auto* drawn = dynamic_cast<const Control_Widget*>(control.widget);
             const bool led = drawn != nullptr && std::string_view(drawn->Record().kind) == "led";
