@@ -51,8 +51,10 @@ FORWARD(int, jack_activate, (jack_client_t* client), client)
 FORWARD(int, jack_client_close, (jack_client_t* client), client)
 FORWARD(int, jack_connect, (jack_client_t* client, const char* from, const char* to), client, from, to)
 FORWARD(void, jack_free, (void* block), block)
+FORWARD(jack_nframes_t, jack_get_buffer_size, (jack_client_t* client), client)
 FORWARD(const char**, jack_get_ports, (jack_client_t* client, const char* name, const char* type, unsigned long flags), client, name, type, flags)
 FORWARD(jack_time_t, jack_get_time, ())
+FORWARD(jack_nframes_t, jack_last_frame_time, (const jack_client_t* client), client)
 FORWARD(void, jack_midi_clear_buffer, (void* buffer), buffer)
 FORWARD(int, jack_midi_event_get, (jack_midi_event_t* event, void* buffer, uint32_t index), event, buffer, index)
 FORWARD(jack_midi_data_t*, jack_midi_event_reserve, (void* buffer, jack_nframes_t time, size_t size), buffer, time, size)
@@ -81,6 +83,7 @@ FORWARD(void, jack_set_info_function, (void (*told)(const char* text)), told)
 FORWARD(int, jack_set_port_connect_callback, (jack_client_t* client, JackPortConnectCallback callback, void* context), client, callback, context)
 FORWARD(int, jack_set_port_registration_callback, (jack_client_t* client, JackPortRegistrationCallback callback, void* context), client, callback, context)
 FORWARD(int, jack_set_process_callback, (jack_client_t* client, JackProcessCallback callback, void* context), client, callback, context)
+FORWARD(int, jack_set_xrun_callback, (jack_client_t* client, JackXRunCallback callback, void* context), client, callback, context)
 // clang-format on
 
 // The optional arguments belong to options that neither RtMidi nor the program uses.
