@@ -66,6 +66,8 @@ struct Own_Folder {
     }
     ~Own_Folder() {
         Clear(path);
+        std::error_code error;
+        fs::remove(path + ".lock", error);
         close(lock_);
     }
     Own_Folder(const Own_Folder&) = delete;
