@@ -97,7 +97,7 @@ def main():
 
     # The same rows again and again, so the values go round too: what follows three values mostly is the next one.
     # Moves that the toolkit finds together are one value, and behind a turn that was passed over so the thumb is held
-    # a little beside the usual place, for a value or two.
+    # a little beside the usual place until it comes to its rail's end again.
     moves = len((folder / "moves.txt").read_text().split())
     follower = collections.defaultdict(collections.Counter)
     for place in range(3, len(drags)):
@@ -109,7 +109,7 @@ def main():
     together = moves - len(moved)
     beside = sum(value not in cycle for value in moved)
     say(f"slider: {len(moved)} values for {moves} moves; {together} moves came together with the next, {beside} values "
-        "are others behind such a turn", 0 <= together and beside <= together)
+        "are others behind such a turn", 0 <= together and beside <= together * MOVES_A_CYCLE)
 
     clock_told("oscillator's clock", [time for time, message in sent if message.startswith(OSCILLATOR)], 1)
     clock_told("sequencer's clock", [time for time, message in sent if message.startswith(NOTES[0])], 62)
