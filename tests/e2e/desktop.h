@@ -35,11 +35,12 @@ class Desktop : public ::testing::Test {
     bool Wait_For_Window(const std::string& title, bool there = true);
 
     bool Wait_For_Focus(const std::string& title);
+    std::vector<unsigned long> Windows(const std::string& title);  // their numbers at the screen's server
     int Windows_Named(const std::string& title);
 
-    // Waits for a box, presses the key, and waits until only so many windows of the program's name are
-    // left: 0 before the frame shows, 1 behind that.
-    void Answer_Box(const std::string& key, int windows_left);
+    // Waits for a box, presses the key, and waits until the box has gone; then until the frame has the keys
+    // again, if it stands below the box and the answer has not ended the program.
+    void Answer_Box(const std::string& key, bool over_the_frame = true);
 
     // Pointer and keys. Places are pixels of the screen; the main window stands at its upper left corner.
     std::string Xdotool(const std::vector<std::string>& arguments);

@@ -23,14 +23,10 @@ std::string Configured(const std::string& channel) {
 
 class Panel_On_The_Desktop : public Desktop {
   protected:
-    // The two boxes of a start at which something is wrong with both devices: the second one follows at
-    // once.
+    // The two boxes of a start at which something is wrong with both devices.
     void Press_Through_Two_Boxes() {
-        ASSERT_TRUE(Wait_For_Focus("Tonebench"));
-        std::this_thread::sleep_for(300ms);
-        Press_Key("Return");
-        std::this_thread::sleep_for(500ms);
-        Press_Key("Return");
+        Answer_Box("Return", false);
+        Answer_Box("Return", false);
     }
 
     // Drags VCF_Res to 20 and 30 and steps DCO1_Range by key; `cc` is the channel byte that must go out.
@@ -120,10 +116,10 @@ TEST_F(Panel_On_The_Desktop, asks_about_a_changed_tone_before_it_ends) {
     Press_Key("Up");
     ASSERT_EQ(Witnessed(1).size(), 1U);
     Press_Key("ctrl+x");
-    Answer_Box("Escape", 1);  // Cancel
+    Answer_Box("Escape");  // Cancel
     EXPECT_TRUE(program_->Is_Running());
     Press_Key("ctrl+x");
-    Answer_Box("alt+n", 0);
+    Answer_Box("alt+n");
     EXPECT_EQ(program_->Wait_For_End(10s), 0);
 }
 
@@ -138,14 +134,14 @@ TEST_F(Panel_On_The_Desktop, tells_when_its_port_goes_in_the_middle_of_a_drag_an
     witness_->Kill();
     ASSERT_TRUE(Wait_For_Jack_Port("witness:input", false));
     Move_To(Resonance_X, panel + Resonance_Top - 20);
-    Answer_Box("Return", 1);
+    Answer_Box("Return");
     Xdotool({"mouseup", "1"});
     EXPECT_TRUE(program_->Is_Running());
     // The next touch tells it again; the panel itself goes on.
     Move_To(Range_X, Menu_Height() + Range_Y);
     Xdotool({"click", "1"});
     Press_Key("Up");
-    Answer_Box("Return", 1);
+    Answer_Box("Return");
     EXPECT_TRUE(program_->Is_Running());
 }
 
@@ -158,7 +154,7 @@ TEST_F(Panel_On_The_Desktop, works_without_any_midi) {
     Xdotool({"click", "1"});
     Press_Key("Up");
     Press_Key("ctrl+x");
-    Answer_Box("alt+n", 0);
+    Answer_Box("alt+n");
     EXPECT_EQ(program_->Wait_For_End(10s), 0);
     EXPECT_EQ(program_->Errors(), Lines{});
 }
@@ -166,7 +162,7 @@ TEST_F(Panel_On_The_Desktop, works_without_any_midi) {
 TEST_F(Panel_On_The_Desktop, refuses_a_screen_of_144_ppi_and_writes_nothing) {
     // Left to itself the toolkit scales such a screen as a whole; here it is told not to.
     Start_Program("", {{"QT_FONT_DPI", "144"}, {"QT_ENABLE_HIGHDPI_SCALING", "0"}});
-    Answer_Box("Return", 0);
+    Answer_Box("Return", false);
     EXPECT_EQ(program_->Wait_For_End(10s), 0);
     EXPECT_FALSE(std::filesystem::exists(folder_ / "Tonebench.INI"));
 }
@@ -175,7 +171,7 @@ TEST_F(Panel_On_The_Desktop, runs_on_without_its_font) {
     Start_Jack();
     std::filesystem::remove(folder_ / "JX8P.FNT");
     Start_Program(Configured("1"));
-    Answer_Box("Return", 0);
+    Answer_Box("Return", false);
     Wait_For_Main_Window();
     Play_And_Compare("00");
 }

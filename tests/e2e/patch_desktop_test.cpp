@@ -150,7 +150,7 @@ TEST_F(Patch_On_The_Desktop, is_answered_under_the_MKS_70_by_a_message_and_the_t
     Start_Program(Configured("Synthesizer=MKS-70\n"));
     Wait_For_Main_Window();
     Press_Key("ctrl+p");
-    Answer_Box("Return", 1);
+    Answer_Box("Return");
     EXPECT_EQ(Windows_Named("Patch Parameter"), 0);
     Press_Key("ctrl+t");
     std::string tone = "f0 41 35 00 24 20 01";

@@ -163,7 +163,7 @@ class A_Pulled_Plug_On_The_Desktop : public Desktop {
 
     void Expect_End(const char* answer) {
         Press_Key("ctrl+x");
-        if (answer != nullptr) Answer_Box(answer, 0);
+        if (answer != nullptr) Answer_Box(answer);
         EXPECT_EQ(program_->Wait_For_End(10s), 0);
         EXPECT_EQ(program_->Errors(), Lines{});
     }

@@ -167,7 +167,7 @@ TEST_F(Reception_On_The_Desktop, refuses_a_dump_of_70000_bytes_and_takes_the_nex
         Child_Process player(
             {BUILD_DIR "/tests/jack_player", "player", (folder_ / "dump.txt").string(), Input});
         ASSERT_TRUE(player.Wait_For_Line("played", 10s));
-        Answer_Box("Return", 1);
+        Answer_Box("Return");
     }
     EXPECT_EQ(Messages_Dumped(*witness_), Lines{});
     Play(Dump("NEXT", '\x22', 67));
@@ -180,7 +180,7 @@ TEST_F(Reception_On_The_Desktop, ends_with_a_report_when_the_device_is_no_longer
     Begin();
     Child_Process cut({"jack_disconnect", "sender:out", Input});
     ASSERT_EQ(cut.Wait_For_End(5s), 0);
-    Answer_Box("Return", 1);
+    Answer_Box("Return");
     ASSERT_TRUE(Wait_For_Jack_Port(Input, false));
     Expect_Tone(New_Tone(), 1);
     Begin();

@@ -87,7 +87,7 @@ TEST_F(Sequencer_On_The_Desktop, plays_a_clicked_pattern_in_order_and_stops_from
     EXPECT_EQ(connections.Output(), Lines{"witness:input"}) << "the port is free";
 
     Press_Key("ctrl+x");
-    Answer_Box("alt+n", 1);
+    Answer_Box("alt+n");
     EXPECT_EQ(program_->Wait_For_End(10s), 0);
     EXPECT_EQ(program_->Errors(), Lines{});
 }
