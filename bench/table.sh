@@ -93,29 +93,36 @@ figure_start() {
 figure_memory() { figure_start memory; }
 
 # Processor time of all threads of the program over 20 seconds, in percent of a core.
+time_used() { # process
+    cat /proc/"$1"/task/*/schedstat | awk '{sum += $1} END {printf "%d", sum}'
+}
+
+# The load of the program in 20 seconds; `listener_load` is then that of the witness, which only listens.
 idle_load() {
-    local before after
+    local before after listener_before listener_after
     sleep 1
-    before=$(cat /proc/"$program"/task/*/schedstat | awk '{sum += $1} END {printf "%d", sum}')
+    before=$(time_used "$program") listener_before=$(time_used "${witness:-$program}")
     sleep 20
-    after=$(cat /proc/"$program"/task/*/schedstat | awk '{sum += $1} END {printf "%d", sum}')
-    awk -v time=$((after - before)) 'BEGIN {printf "%.2f %%", time / 20e7}'
+    after=$(time_used "$program") listener_after=$(time_used "${witness:-$program}")
+    load=$(awk -v time=$((after - before)) 'BEGIN {printf "%.2f %%", time / 20e7}')
+    listener_load=$(awk -v time=$((listener_after - listener_before)) 'BEGIN {printf "%.2f %%", time / 20e7}')
 }
 
 figure_idle() {
     start_program "$build/tonebench"
     # Two boxes tell that there is no MIDI.
-    local load
-    load=$(idle_load)
+    local load listener_load
+    idle_load
     end_program
     row "idle with the blink on, without MIDI" "$load of a core" "asked: 0.5 %" idle
     start_jack
     start_program "$build/tonebench" jack
     press ctrl+t 0.5
-    load=$(idle_load)
+    idle_load
     end_program
     stage_anew
-    row "idle with an open port, JACK at 128 frames" "$load of a core" "asked: 0.5 %; 375 calls a second" idle
+    row "idle with an open port, JACK at 128 frames" "$load of a core" \
+        "asked: 0.5 %; a JACK client that only listens: $listener_load" idle
 }
 
 figure_jitter() {
