@@ -9,7 +9,7 @@ fail() {
 # What building the program needs.
 build_packages=(
     g++ cmake ninja-build pkg-config
-    qt6-base-dev qt6-svg-dev
+    qt6-base-dev qt6-svg-dev libfreetype-dev
     librtmidi-dev libasound2-dev libjack-jackd2-dev
     python3 python3-fonttools
     fonts-roboto-unhinted fonts-dejavu-core

@@ -12,7 +12,8 @@ double Display_Logical_Density();
 int Display_Width();
 int Display_Height();
 
-// Makes the faces of a font file known to this process. False when the file cannot be used.
+// Makes the faces of a font file known to this process. False when the file cannot be used: it is no plain
+// file, larger than 16 MB, no font of outlines, or damaged.
 bool Font_File_Add(const std::string& path);
 
 // Takes it back. 0 on success, else the system's error number.
