@@ -2,8 +2,8 @@
 # Takes the pictures of the documents from the real program: tools/picture.sh BUILD-FOLDER
 # Starts a virtual screen and a JACK server with a device each way, plays a little in every window, and writes
 # docs/panel.png and the pictures of the guide; those whose names end in @2x have two pixels for each of the
-# screen's. No menu opens the MKS-70's patch window or the file window's panel of oscillators; their pictures,
-# patch_mks70.png and docs/files_oscillators.png, are what the windows' tests leave in the build folder.
+# screen's. No menu opens the MKS-70's patch window; its picture, patch_mks70.png, is what the windows' tests leave in
+# the build folder.
 #
 # The paths that some pictures show begin with TMPDIR.
 set -euo pipefail
@@ -336,4 +336,3 @@ shoot 2 play_juno "$guide/juno@2x.png"
 shoot 2 play_envelope "$guide/juno_envelope@2x.png"
 
 cp "$build/patch_mks70.png" "$guide"
-cp "$build/files_oscillators.png" "$docs"

@@ -139,7 +139,7 @@ TEST_F(File_Window_On_Screen, shows_one_panel_by_its_mode) {
     }
 }
 
-// No menu leads to this panel yet; the documents have their picture of it from here.
+// No menu leads to this panel yet.
 TEST_F(File_Window_On_Screen, has_a_panel_for_oscillators) {
     Write(Disk("wave.osc"), "?");
     Open("Open_OSC");
@@ -147,7 +147,6 @@ TEST_F(File_Window_On_Screen, has_a_panel_for_oscillators) {
     const QImage curve = Picture_On(Widget("FD_OSC_Preview"));
     Press_Row("FD_List_Files", 0);
     EXPECT_EQ(Picture_On(Widget("FD_OSC_Preview")), curve) << "nothing changes it";
-    EXPECT_TRUE(Picture_On(Widget("File_Dlg")).save(BUILD_DIR "/files_oscillators.png"));
 }
 
 // -- lists -----------------------------------------------------------------------------------------------
