@@ -398,10 +398,10 @@ int __wrap_unlink(const char* path) {
     const std::string whole = Absolute(path);
     // A file beside the settings is cleared away on a disk that is full, too.
     const bool own = Is_Settings(whole);
-    const bool named =
-        own ||
-        Lower_Text(whole) == Lower_Text(Absolute(FD_List_Dirs.path.c_str()) + "/" + FD_FileName.text) ||
-        Small_Name(whole) == Small_Name(FD_FileName.text);
+    // Also "..", which is a folder and stays.
+    const std::string typed = FD_List_Dirs.path + "/" + std::string(Trimmed(FD_FileName.text));
+    const bool named = own || Lower_Text(whole) == Lower_Text(Absolute(typed.c_str())) ||
+                       Small_Name(whole) == Small_Name(FD_FileName.text);
     if (!own && !May_Change(whole, named, "the deleting")) return -1;
     const int result = __real_unlink(path);
     if (result == 0) Went(whole);
