@@ -92,12 +92,13 @@ figure_start() {
 }
 figure_memory() { figure_start memory; }
 
-# Processor time of all threads of the program over 20 seconds, in percent of a core.
+# Processor time that all threads have used so far, in nanoseconds.
 time_used() { # process
     cat /proc/"$1"/task/*/schedstat | awk '{sum += $1} END {printf "%d", sum}'
 }
 
-# The load of the program in 20 seconds; `listener_load` is then that of the witness, which only listens.
+# Sets `load`, that of the program over 20 seconds in percent of a core, and `listener_load`, that of the witness, which
+# only listens.
 idle_load() {
     local before after listener_before listener_after
     sleep 1
