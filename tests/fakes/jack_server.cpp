@@ -26,7 +26,7 @@ const std::string Server_Name = "tonebench-test";
 constexpr auto Answer_Patience = 3s;
 constexpr auto Start_Patience = 8s;
 constexpr auto Server_Patience = 20s;
-constexpr int Tries = 2;
+constexpr int Tries = 3;
 constexpr std::size_t Longest_Report = 4000;
 
 bool Answers() {
@@ -52,13 +52,6 @@ std::unique_ptr<Child_Process> Started_Once(const Jack_Client& client, std::stri
     }
     report += Told("no port " + client.port, *process);
     return nullptr;
-}
-
-std::unique_ptr<Child_Process> Started(const Jack_Client& client, std::string& report) {
-    std::unique_ptr<Child_Process> process;
-    for (int attempt = 0; attempt < Tries && process == nullptr; ++attempt)
-        process = Started_Once(client, report);
-    return process;
 }
 
 // " b0 7b 00 control change" gives "b0 7b 00".
@@ -121,7 +114,8 @@ Jack_Clients Jack_Server::Start_With(const std::vector<Jack_Client>& wanted, Pac
         Start(pace);
         Jack_Clients clients;
         for (const Jack_Client& client : wanted) {
-            clients.push_back(Started(client, report));
+            // A client that hung and was ended may leave a server that stands still: both begin anew.
+            clients.push_back(Started_Once(client, report));
             if (clients.back() == nullptr) break;
         }
         if (clients.size() == wanted.size() && (clients.empty() || clients.back() != nullptr))
@@ -135,7 +129,9 @@ Jack_Clients Jack_Server::Start_With(const std::vector<Jack_Client>& wanted, Pac
 
 std::unique_ptr<Child_Process> Started_Client(const Jack_Client& client) {
     std::string report;
-    auto process = Started(client, report);
+    std::unique_ptr<Child_Process> process;
+    for (int attempt = 0; attempt < Tries && process == nullptr; ++attempt)
+        process = Started_Once(client, report);
     if (process == nullptr) throw std::runtime_error("no client at the JACK server" + report);
     return process;
 }
