@@ -18,7 +18,7 @@ stage_ends() {
 }
 
 start_screen() {
-    exec 3< <(exec Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp 2>/dev/null)
+    exec 3< <(exec Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp -noreset 2>/dev/null)
     screen=$!
     local display
     read -r display <&3

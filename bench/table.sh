@@ -97,33 +97,38 @@ time_used() { # process
     cat /proc/"$1"/task/*/schedstat | awk '{sum += $1} END {printf "%d", sum}'
 }
 
-# Sets `load`, that of the program over 20 seconds in percent of a core, and `listener_load`, that of the witness, which
-# only listens.
-idle_load() {
-    local before after listener_before listener_after
+# What a process takes of a core, over 20 seconds.
+idle_load() { # process
     sleep 1
-    before=$(time_used "$program") listener_before=$(time_used "${witness:-$program}")
+    local before after
+    before=$(time_used "$1")
     sleep 20
-    after=$(time_used "$program") listener_after=$(time_used "${witness:-$program}")
-    load=$(awk -v time=$((after - before)) 'BEGIN {printf "%.2f %%", time / 20e7}')
-    listener_load=$(awk -v time=$((listener_after - listener_before)) 'BEGIN {printf "%.2f %%", time / 20e7}')
+    after=$(time_used "$1")
+    awk -v time=$((after - before)) 'BEGIN {printf "%.2f %%", time / 20e7}'
 }
 
 figure_idle() {
     start_program "$build/tonebench"
     # Two boxes tell that there is no MIDI.
-    local load listener_load
-    idle_load
+    row "idle with the blink on, without MIDI" "$(idle_load "$program") of a core" "asked: 0.5 %" idle
     end_program
-    row "idle with the blink on, without MIDI" "$load of a core" "asked: 0.5 %" idle
     start_jack
+    local load listens plays player
+    listens=$(idle_load "$witness")
     start_program "$build/tonebench" jack
     press ctrl+t 0.5
-    idle_load
+    load=$(idle_load "$program")
     end_program
-    stage_anew
+    # In the program's place, a client with an output and next to nothing to say.
+    jack_midiseq player 480000 0 60 8000 >/dev/null 2>&1 &
+    player=$!
+    sleep 1
+    jack_connect player:out witness:input
+    plays=$(idle_load "$player")
+    kill "$player"
     row "idle with an open port, JACK at 128 frames" "$load of a core" \
-        "asked: 0.5 %; a JACK client that only listens: $listener_load" idle
+        "asked: 0.5 %; a JACK client that only listens: $listens, one that plays in the program's place: $plays" idle
+    stage_anew
 }
 
 figure_jitter() {

@@ -10,7 +10,7 @@ mkdir -p "$2"
 out=$(cd "$2" && pwd)
 folder=$(mktemp -d)
 trap 'kill $screen 2>/dev/null || true; rm -rf "$folder"' EXIT
-exec 3< <(exec Xvfb -displayfd 1 -screen 0 2600x2200x24 -nolisten tcp 2>/dev/null)
+exec 3< <(exec Xvfb -displayfd 1 -screen 0 2600x2200x24 -nolisten tcp -noreset 2>/dev/null)
 screen=$!
 read -r display <&3
 

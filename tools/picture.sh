@@ -16,7 +16,7 @@ mkdir -m 700 "$folder"
 trap 'kill $(jobs -p) $screen 2>/dev/null || true; rm -rf "$folder"' EXIT
 
 export JACK_NO_AUDIO_RESERVATION=1 JACK_DEFAULT_SERVER=tonebench-picture XDG_RUNTIME_DIR=$folder
-exec 3< <(exec Xvfb -displayfd 1 -screen 0 1280x1100x24 -nolisten tcp 2>/dev/null)
+exec 3< <(exec Xvfb -displayfd 1 -screen 0 1280x1100x24 -nolisten tcp -noreset 2>/dev/null)
 screen=$!
 read -r display <&3
 export DISPLAY=:$display

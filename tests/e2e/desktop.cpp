@@ -36,7 +36,7 @@ Desktop::Desktop() : folder_(Temporary_Folder()) {
     std::filesystem::copy(BUILD_DIR "/tonebench", folder_ / "tonebench");
     std::filesystem::copy(BUILD_DIR "/JX8P.FNT", folder_ / "JX8P.FNT");
     screen_ = std::make_unique<Child_Process>(std::vector<std::string>{
-        "Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"});
+        "Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"});
     if (!Wait_For([this] { return !screen_->Output().empty(); }))
         throw std::runtime_error("no virtual screen");
     setenv("DISPLAY", (":" + screen_->Output().front()).c_str(), 1);

@@ -73,7 +73,7 @@ flock 8
 export JACK_DEFAULT_SERVER=tonebench-test JACK_NO_AUDIO_RESERVATION=1 JACK_NO_START_SERVER=1
 export HOME=$home XDG_RUNTIME_DIR=$work QT_QPA_PLATFORM=xcb
 unset XDG_DATA_HOME XDG_CONFIG_HOME XDG_CACHE_HOME WAYLAND_DISPLAY
-exec 3< <(exec Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp 2>/dev/null 8>&-)
+exec 3< <(exec Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp -noreset 2>/dev/null 8>&-)
 screen=$!
 read -r -t 30 display <&3 || fail "no virtual screen"
 export DISPLAY=:$display
