@@ -398,7 +398,7 @@ int __wrap_unlink(const char* path) {
     const std::string whole = Absolute(path);
     // A file beside the settings is cleared away on a disk that is full, too.
     const bool own = Is_Settings(whole);
-    // Also "..", which is a folder and stays.
+    // Also "." and "..", which are folders and stay.
     const std::string typed = FD_List_Dirs.path + "/" + std::string(Trimmed(FD_FileName.text));
     const bool named = own || Lower_Text(whole) == Lower_Text(Absolute(typed.c_str())) ||
                        Small_Name(whole) == Small_Name(FD_FileName.text);
